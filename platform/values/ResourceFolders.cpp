@@ -1,0 +1,51 @@
+#include "values/ResourceFolders.h"
+
+#include "values/Settings.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+namespace fs = std::filesystem;
+
+namespace trellis {
+
+namespace {
+
+fs::path Root() {
+    if (const char* named = std::getenv("TRELLIS_RESOURCES"); named && *named)
+        return named;
+    std::error_code none;
+    const fs::path program = fs::read_symlink("/proc/self/exe", none);
+    return program.parent_path().parent_path() / "share" / "trellis" / "resources";
+}
+
+} // namespace
+
+std::vector<std::string> ResourceFolders::Search() {
+    std::vector<fs::path> wanted;
+    if (const std::string site = Settings::SiteFolder(); !site.empty())
+        wanted.push_back(fs::path(site) / "resources");
+    const std::string language = Settings::Current().Value("LANGUAGE").text;
+    if (!language.empty() && language != "en" && language.find('/') == std::string::npos)
+        wanted.push_back(Root() / language);
+    wanted.push_back(Root() / "en");
+
+    std::vector<std::string> folders;
+    std::error_code none;
+    for (const fs::path& folder : wanted)
+        if (fs::is_directory(folder, none))
+            folders.push_back(folder.string());
+    return folders;
+}
+
+std::string ResourceFolders::Find(const std::string& fileName) {
+    if (fileName.empty() || fileName.find('/') != std::string::npos)
+        return {};
+    std::error_code none;
+    for (const std::string& folder : Search())
+        if (const fs::path file = fs::path(folder) / fileName; fs::is_regular_file(file, none))
+            return file.string();
+    return {};
+}
+
+} // namespace trellis

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace trellis {
+
+// ResourceFolders: where texts and icons lie. A file is looked for in the site's folder (resources/ below it), then
+// in the folder of the language, then in that of English; which language is the setting "LANGUAGE". The root is
+// TRELLIS_RESOURCES in the environment, else share/trellis/resources beside the folder of the program.
+class ResourceFolders {
+public:
+    // The folders that exist, in the order of the search.
+    static std::vector<std::string> Search();
+    // The first file of that name, or an empty text. Names with a folder in them are not looked for.
+    static std::string Find(const std::string& fileName);
+};
+
+} // namespace trellis
