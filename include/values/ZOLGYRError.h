@@ -30,6 +30,9 @@ public:
 
     int GetCode() const { return _code; }
     int GetMode() const { return _mode; }
+    // Whether the code was set with mode -1, as a message of success or a notice. A cleared carrier has that mode as well,
+    // but a code set into it without a mode is an error.
+    bool IsNotice() const { return _isNotice; }
     const std::vector<ZOLUnicodeString>& GetParameters() const { return _parameters; }
     // The whole message with its parameters inserted; empty for code 0. A number without a text in the catalogue
     // gives the number and the parameters.
@@ -38,6 +41,7 @@ public:
 private:
     int _code = 0;
     int _mode = -1;
+    bool _isNotice = false;
     std::vector<ZOLUnicodeString> _parameters;
     ZOLUnicodeString _longMessage;
 };

@@ -9,17 +9,13 @@ namespace fs = std::filesystem;
 
 namespace trellis {
 
-namespace {
-
-fs::path Root() {
+std::string ResourceFolders::Root() {
     if (const char* named = std::getenv("TRELLIS_RESOURCES"); named && *named)
         return named;
     std::error_code none;
     const fs::path program = fs::read_symlink("/proc/self/exe", none);
-    return program.parent_path().parent_path() / "share" / "trellis" / "resources";
+    return (program.parent_path().parent_path() / "share" / "trellis" / "resources").string();
 }
-
-} // namespace
 
 std::vector<std::string> ResourceFolders::Search() {
     std::vector<fs::path> wanted;
@@ -27,8 +23,8 @@ std::vector<std::string> ResourceFolders::Search() {
         wanted.push_back(fs::path(site) / "resources");
     const std::string language = Settings::Current().Value("LANGUAGE").text;
     if (!language.empty() && language != "en" && language.find('/') == std::string::npos)
-        wanted.push_back(Root() / language);
-    wanted.push_back(Root() / "en");
+        wanted.push_back(fs::path(Root()) / language);
+    wanted.push_back(fs::path(Root()) / "en");
 
     std::vector<std::string> folders;
     std::error_code none;

@@ -7,6 +7,7 @@
 
 void ZOLGYRError::Clear() {
     _mode = -1;
+    _isNotice = false;
     _parameters.clear();
     _longMessage = ZOLUnicodeString();
     _code = 0;
@@ -15,6 +16,7 @@ void ZOLGYRError::Clear() {
 void ZOLGYRError::Set(const int code, const int mode) {
     _code = code;
     _mode = mode;
+    _isNotice = mode == -1;
 }
 
 void ZOLGYRError::Set(const int code, const int mode, const ZOLUnicodeString first, const int count,

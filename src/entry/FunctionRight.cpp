@@ -2,14 +2,17 @@
 
 #include "model/ZOLDMInstance.h"
 #include "service/ZOLQRDCfgBase.h"
+#include "site/RightTable.h"
 
 namespace trellis {
 
-int FunctionRight::Refusal(const ZOLDMInstance& instance) const {
-    const int refusal = instance.GetFunctionRight("QRD", "CFG", _function, 1);
+int RefusedRight(const ZOLDMInstance& instance, const char* function) {
+    const int refusal = instance.GetFunctionRight("QRD", "CFG", function, 1);
     if (refusal <= 0)
         return 0;
-    const bool overridden = _privilegeLimit != NoOverride && ZOLQRDCfgBase::GetPrivilege() >= _privilegeLimit;
+    const GuardedFunction* guarded = RightTable::Find(function);
+    const bool overridden = guarded && guarded->privilegeLimit != GuardedFunction::NoOverride &&
+                            ZOLQRDCfgBase::GetPrivilege() >= guarded->privilegeLimit;
     return overridden ? 0 : refusal;
 }
 

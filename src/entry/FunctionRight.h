@@ -4,22 +4,9 @@ class ZOLDMInstance;
 
 namespace trellis {
 
-// FunctionRight: the right to a function, as operations ask it of an instance. Some functions let a high privilege
-// override a refusal.
-class FunctionRight {
-public:
-    static constexpr int NoOverride = -1;
-
-    // privilegeLimit  the privilege from which a refusal no longer stands, or NoOverride
-    constexpr FunctionRight(const char* function, int privilegeLimit = NoOverride)
-        : _function(function), _privilegeLimit(privilegeLimit) {}
-
-    // 0 when the function may go on, else the number of the error to report.
-    int Refusal(const ZOLDMInstance& instance) const;
-
-private:
-    const char* _function;
-    int _privilegeLimit;
-};
+// Asks an instance for the right to a function, as every operation does before it begins. 0 when it may go on, else
+// the number of the error to report. Where the function has a privilege limit, a user of that privilege goes on in
+// spite of a refusal.
+int RefusedRight(const ZOLDMInstance& instance, const char* function);
 
 } // namespace trellis

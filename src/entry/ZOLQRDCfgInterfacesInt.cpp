@@ -9,7 +9,6 @@
 
 #include <span>
 
-using trellis::FunctionRight;
 using trellis::OperationTrace;
 
 namespace {
@@ -26,11 +25,6 @@ constexpr int NoDictionary = 20297;
 constexpr int AskDeleteDictionary = 50060;
 constexpr int NotInThisBuild = 60001;
 
-constexpr FunctionRight SetRight("Set", 2);
-constexpr FunctionRight UnsetRight("Unset", 10);
-constexpr FunctionRight DeleteDictionaryRight("DeleteOptionDictionary", 10);
-constexpr FunctionRight CleanRight("CleanAssembly");
-
 std::span<ZOLDMInstance> Instances(int count, ZOLDMInstance* instances) {
     return {instances, count > 0 ? static_cast<std::size_t>(count) : 0};
 }
@@ -45,16 +39,16 @@ void SetNotInThisBuild(ZOLGYRError& error, const char* operation) {
 }
 
 // Sets the refusal of a right as the code. False when it was refused.
-bool RightHolds(const FunctionRight& right, const ZOLDMInstance& instance, ZOLGYRError& error) {
-    const int refusal = right.Refusal(instance);
+bool RightHolds(const char* function, const ZOLDMInstance& instance, ZOLGYRError& error) {
+    const int refusal = trellis::RefusedRight(instance, function);
     if (refusal > 0)
         error.Set(refusal);
     return refusal <= 0;
 }
 
-bool RightHoldsOnAll(const FunctionRight& right, std::span<ZOLDMInstance> instances, ZOLGYRError& error) {
+bool RightHoldsOnAll(const char* function, std::span<ZOLDMInstance> instances, ZOLGYRError& error) {
     for (const ZOLDMInstance& instance : instances)
-        if (!RightHolds(right, instance, error))
+        if (!RightHolds(function, instance, error))
             return false;
     return true;
 }
@@ -123,7 +117,7 @@ void ZOLQRDCfgInterfacesInt::Usage(ZOLDialog*, ZOLListValZOLUnicodeString&, ZOLD
 void ZOLQRDCfgInterfacesInt::SetConfigurable(ZOLDialog*, ZOLDMInstance& part, ZOLGYRError& error) {
     const OperationTrace trace("ZOLQRDCfgInterfacesInt::SetConfigurable", TraceLevel, error);
     error.Clear();
-    if (!RightHolds(SetRight, part, error))
+    if (!RightHolds("Set", part, error))
         return;
     ZOLQRDCfgManager* manager = ZOLQRDCfgManager::CurrentCfgManager(error);
     if (error.GetCode() != 0)
@@ -154,7 +148,7 @@ void ZOLQRDCfgInterfacesInt::UnSetConfigurable(ZOLDialog* parent, int count, ZOL
                 return;
             continue;
         }
-        if (!RightHolds(UnsetRight, part, error))
+        if (!RightHolds("Unset", part, error))
             return;
         if (!HasEffectivities(object) || UserAgrees(parent, AskWithEffectivities, part))
             ZOLQRDCfgBase::UnsetConfigurable(part, error);
@@ -174,7 +168,7 @@ void ZOLQRDCfgInterfacesInt::PartCfgAnalysis(ZOLDialog*, ZOLDMInstance&, ZOLGYRE
 }
 
 void ZOLQRDCfgInterfacesInt::AvailableTypes(ZOLDialog*, int count, ZOLDMInstance* parts, ZOLGYRError& error) {
-    if (RightHoldsOnAll(SetRight, Instances(count, parts), error))
+    if (RightHoldsOnAll("Set", Instances(count, parts), error))
         SetNotInThisBuild(error, "AvailableTypes");
 }
 
@@ -249,7 +243,7 @@ void ZOLQRDCfgInterfacesInt::DeleteDictionary(ZOLDialog* parent, int count, ZOLD
             error.Add(DisplayName(part));
             continue;
         }
-        if (!RightHolds(DeleteDictionaryRight, part, error))
+        if (!RightHolds("DeleteOptionDictionary", part, error))
             return;
         if (UserAgrees(parent, AskDeleteDictionary, part)) {
             manager->DeleteDictionary(part, error);
@@ -275,7 +269,7 @@ void ZOLQRDCfgInterfacesInt::OpenMilestoneManager(ZOLDialog*, int count, ZOLDMIn
     if (error.GetCode() != 0)
         return;
     const std::span<ZOLDMInstance> instances = Instances(count, parts);
-    const FunctionRight right(milestoneType == DateMilestone ? "ManageDateMilestone" : "ManageRangeMilestone");
+    const char* right = milestoneType == DateMilestone ? "ManageDateMilestone" : "ManageRangeMilestone";
     if (AnyConfigurable(*manager, instances, error) && RightHoldsOnAll(right, instances, error))
         SetNotInThisBuild(error, "OpenMilestoneManager");
 }
@@ -287,7 +281,7 @@ void ZOLQRDCfgInterfacesInt::DeleteMilestones(ZOLDialog*, int count, ZOLDMInstan
     ZOLQRDCfgManager::CurrentCfgManager(error);
     if (error.GetCode() != 0)
         return;
-    const FunctionRight right(milestoneType == DateMilestone ? "DeleteDateMilestone" : "DeleteRangeMilestone");
+    const char* right = milestoneType == DateMilestone ? "DeleteDateMilestone" : "DeleteRangeMilestone";
     if (RightHoldsOnAll(right, Instances(count, parts), error))
         SetNotInThisBuild(error, "DeleteMilestones");
 }
@@ -305,6 +299,6 @@ void ZOLQRDCfgInterfacesInt::CleanDatabase(ZOLDialog*, int count, ZOLDMInstance*
     ZOLQRDCfgManager* manager = ZOLQRDCfgManager::CurrentCfgManager(error);
     if (error.GetCode() != 0)
         return;
-    if (AnyConfigurable(*manager, instances, error) && RightHoldsOnAll(CleanRight, instances, error))
+    if (AnyConfigurable(*manager, instances, error) && RightHoldsOnAll("CleanAssembly", instances, error))
         SetNotInThisBuild(error, "CleanDatabase");
 }

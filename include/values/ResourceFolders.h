@@ -1,5 +1,7 @@
 #pragma once
 
+#include "values/TrellisApi.h"
+
 #include <string>
 #include <vector>
 
@@ -8,8 +10,9 @@ namespace trellis {
 // ResourceFolders: where texts and icons lie. A file is looked for in the site's folder (resources/ below it), then
 // in the folder of the language, then in that of English; which language is the setting "LANGUAGE". The root is
 // TRELLIS_RESOURCES in the environment, else share/trellis/resources beside the folder of the program.
-class ResourceFolders {
+class TRELLIS_API ResourceFolders {
 public:
+    static std::string Root();
     // The folders that exist, in the order of the search.
     static std::vector<std::string> Search();
     // The first file of that name, or an empty text. Names with a folder in them are not looked for.

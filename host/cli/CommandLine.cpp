@@ -1,0 +1,75 @@
+#include "cli/CommandLine.h"
+
+#include "cli/Commands.h"
+
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
+
+#include <clocale>
+#include <cstdlib>
+#include <iostream>
+
+namespace trellis {
+
+namespace {
+
+const char* const Description =
+    "trellis - variant configuration for product structures\n"
+    "Dictionaries of categories and options, and which link of a structure is valid for which variant.";
+
+const char* const Footer =
+    "Results go to the standard output, messages to the standard error. Exit codes: 0 fine, 1 the job found a problem,\n"
+    "2 wrong use, 3 the environment failed. Settings: trellis config. Guide: docs/guide.";
+
+void DeclareOptions(CLI::App& program, HostOptions& options) {
+    program.footer(Footer);
+    program.set_version_flag("--version", std::string("trellis ") + TRELLIS_VERSION);
+    program.add_option("--database", options.database, "file of the database to work on")->type_name("FILE");
+    program.add_option("--set", options.settings, "declare a setting for this run")
+        ->type_name("KEY=VALUE")
+        ->expected(1)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    program.add_flag("--json", options.json, "write results for programs to read");
+    program.fallthrough();
+}
+
+// Without a command people want the windows, which need a display.
+ExitCode RunWindows(HostSession&) {
+    const char* display = std::getenv("DISPLAY");
+    std::cerr << (display && *display ? "trellis: windows are not in this build yet"
+                                      : "trellis: there is no display for the windows")
+              << "; without them there are tree, script, import, db and config (trellis --help)\n";
+    return ExitCode::EnvironmentFailed;
+}
+
+ExitCode Start(HostOptions options, const Job& job) {
+    HostSession session(std::move(options));
+    return session.LoadSettings() ? job(session) : ExitCode::EnvironmentFailed;
+}
+
+} // namespace
+
+int CommandLine::Run(int argc, const char* const* argv) {
+    std::setlocale(LC_CTYPE, "");
+    HostOptions options;
+    Job job = RunWindows;
+    CLI::App program(Description, "trellis");
+    DeclareOptions(program, options);
+    program.require_subcommand(0, 1);
+    DeclareImportCommands(program, job);
+    DeclareTreeCommand(program, job);
+    DeclareScriptCommand(program, job);
+    CLI::App& database = *program.add_subcommand("db", "make, examine and administer a database");
+    database.require_subcommand(1);
+    DeclareDatabaseCommands(database, job);
+    DeclarePeopleCommands(database, job);
+    DeclareConfigCommand(program, job);
+    try {
+        program.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return program.exit(error) == 0 ? static_cast<int>(ExitCode::Fine) : static_cast<int>(ExitCode::WrongUse);
+    }
+    return static_cast<int>(Start(std::move(options), job));
+}
+
+} // namespace trellis
