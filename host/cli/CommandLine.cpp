@@ -18,7 +18,8 @@ const char* const Description =
     "Dictionaries of categories and options, and which link of a structure is valid for which variant.";
 
 const char* const Footer =
-    "Results go to the standard output, messages to the standard error. Exit codes: 0 fine, 1 the job found a problem,\n"
+    "Results go to the standard output, messages to the standard error. Exit codes: 0 fine, 1 the job found "
+    "a problem,\n"
     "2 wrong use, 3 the environment failed. Settings: trellis config. Guide: docs/guide.";
 
 void DeclareOptions(CLI::App& program, HostOptions& options) {
@@ -67,7 +68,8 @@ int CommandLine::Run(int argc, const char* const* argv) {
     try {
         program.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return program.exit(error) == 0 ? static_cast<int>(ExitCode::Fine) : static_cast<int>(ExitCode::WrongUse);
+        return program.exit(error) == 0 ? static_cast<int>(ExitCode::Fine)
+                                        : static_cast<int>(ExitCode::WrongUse);
     }
     return static_cast<int>(Start(std::move(options), job));
 }

@@ -68,7 +68,9 @@ ExitCode CheckDatabase(HostSession& session) {
 
 void DeclareDatabaseCommands(CLI::App& database, Job& job) {
     database.add_subcommand("create", "make a new database")->callback([&job] { job = CreateDatabase; });
-    database.add_subcommand("info", "print what a database is and holds")->callback([&job] { job = DescribeDatabase; });
+    database.add_subcommand("info", "print what a database is and holds")->callback([&job] {
+        job = DescribeDatabase;
+    });
     database.add_subcommand("check", "examine what is stored")->callback([&job] { job = CheckDatabase; });
 }
 

@@ -63,7 +63,8 @@ ZOLGraphNode* NodeOf(const Words& words) {
 
 void PrintMenu(const std::vector<Driver::MenuLine>& lines, std::ostream& output) {
     for (const Driver::MenuLine& line : lines)
-        output << std::string(static_cast<std::size_t>(line.level) * 2, ' ') << line.name.View() << "  " << line.text.Bytes() << (line.isSensitive ? "" : "  (greyed)") << '\n';
+        output << std::string(static_cast<std::size_t>(line.level) * 2, ' ') << line.name.View() << "  "
+               << line.text.Bytes() << (line.isSensitive ? "" : "  (greyed)") << '\n';
 }
 
 } // namespace
@@ -74,13 +75,13 @@ std::vector<ScriptVerb> DriverVerbs() {
         {"describe", "[PATH]", 0, 1,
          [](const Words& w, std::ostream& out) { out << Driver::Describe(Dialog(w.empty() ? "." : w[0])); }},
         {"press", "PATH", 1, 1, [](const Words& w, std::ostream&) { Driver::Press(Dialog(w[0])); }},
-        {"menu", "PATH ITEM", 2, 2,
-         [](const Words& w, std::ostream&) { Driver::Menu(Dialog(w[0]), w[1]); }},
+        {"menu", "PATH ITEM", 2, 2, [](const Words& w, std::ostream&) { Driver::Menu(Dialog(w[0]), w[1]); }},
         {"open-menu", "PATH", 1, 1,
          [](const Words& w, std::ostream& out) { PrintMenu(Driver::OpenMenu(Dialog(w[0])), out); }},
         {"toggle", "PATH on|off", 2, 2,
          [](const Words& w, std::ostream&) { Driver::Toggle(Dialog(w[0]), OnOff(w[1])); }},
-        {"choose", "PATH TEXT", 2, 2, [](const Words& w, std::ostream&) { Driver::Choose(Dialog(w[0]), w[1]); }},
+        {"choose", "PATH TEXT", 2, 2,
+         [](const Words& w, std::ostream&) { Driver::Choose(Dialog(w[0]), w[1]); }},
         {"page", "PATH NAME", 2, 2,
          [](const Words& w, std::ostream&) { Driver::ShowPage(Dialog(w[0]), w[1]); }},
         {"type", "PATH TEXT", 2, 2, [](const Words& w, std::ostream&) { Driver::Type(Dialog(w[0]), w[1]); }},
@@ -88,9 +89,13 @@ std::vector<ScriptVerb> DriverVerbs() {
         {"select-text", "PATH FROM TO", 3, 3,
          [](const Words& w, std::ostream&) { Driver::SelectText(Dialog(w[0]), Number(w[1]), Number(w[2])); }},
         {"rows", "PATH ROW...", 1, many,
-         [](const Words& w, std::ostream&) { Driver::Select(Dialog(w[0]), Numbers(w.begin() + 1, w.end())); }},
+         [](const Words& w, std::ostream&) {
+             Driver::Select(Dialog(w[0]), Numbers(w.begin() + 1, w.end()));
+         }},
         {"lines", "PATH TEXT...", 1, many,
-         [](const Words& w, std::ostream&) { Driver::SelectLines(Dialog(w[0]), Texts(w.begin() + 1, w.end())); }},
+         [](const Words& w, std::ostream&) {
+             Driver::SelectLines(Dialog(w[0]), Texts(w.begin() + 1, w.end()));
+         }},
         {"activate", "PATH ROW", 2, 2,
          [](const Words& w, std::ostream&) { Driver::Activate(Dialog(w[0]), Number(w[1])); }},
         {"click", "PATH NODE...", 1, many,

@@ -56,13 +56,12 @@ bool HostSession::LoadSettings() {
     for (const std::string& option : _options.settings) {
         const std::size_t equals = option.find('=');
         if (equals != std::string::npos) {
-            settings.Declare(option.substr(0, equals), option.substr(equals + 1), SettingOrigin::Option, "--set",
-                             problems);
+            settings.Declare(option.substr(0, equals), option.substr(equals + 1), SettingOrigin::Option,
+                             "--set", problems);
             continue;
         }
         ZOLGYRError problem;
-        problem.Set(OptionNotUnderstood, 0);
-        problem.Add(option);
+        problem.Set(OptionNotUnderstood, 0, {option});
         problems.push_back(problem);
     }
     CheckTexts(problems);
@@ -76,9 +75,7 @@ std::string HostSession::DatabaseFile() {
         return _options.database.empty() ? UsersOwnDatabase() : _options.database;
     if (!_options.database.empty() && _options.database != site) {
         ZOLGYRError warning;
-        warning.Set(DatabaseOfTheSite, -1);
-        warning.Add(site);
-        warning.Add(_options.database);
+        warning.Set(DatabaseOfTheSite, -1, {site, _options.database});
         MessageOutput::Print(warning);
         _options.database.clear();
     }

@@ -39,8 +39,8 @@ ExitCode ImportStructure(HostSession& session, const std::string& file) {
     StructureImport::ReadFile(file, report, error);
     PrintProblems(report.problems);
     if (error.GetCode() == 0)
-        fmt::print("parts: {} new, {} changed; links: {} new, {} changed\n", report.newParts, report.changedParts,
-                   report.newLinks, report.changedLinks);
+        fmt::print("parts: {} new, {} changed; links: {} new, {} changed\n", report.newParts,
+                   report.changedParts, report.newLinks, report.changedLinks);
     return Verdict(error);
 }
 
@@ -66,7 +66,8 @@ void DeclareImportCommands(CLI::App& program, Job& job) {
     };
     const auto arguments = std::make_shared<Arguments>();
 
-    CLI::App& import = *program.add_subcommand("import", "bring data of a file into the database, whole or not at all");
+    CLI::App& import =
+        *program.add_subcommand("import", "bring data of a file into the database, whole or not at all");
     import.require_subcommand(1);
 
     CLI::App& structure = *import.add_subcommand("structure", "parts and links, from CSV or JSON");

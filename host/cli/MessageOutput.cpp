@@ -24,7 +24,8 @@ void MessageOutput::Print(const std::vector<ZOLGYRError>& errors) {
 }
 
 bool MessageOutput::AnyError(const std::vector<ZOLGYRError>& errors) {
-    return std::any_of(errors.begin(), errors.end(), [](const ZOLGYRError& error) { return !error.IsNotice(); });
+    return std::any_of(errors.begin(), errors.end(),
+                       [](const ZOLGYRError& error) { return !error.IsNotice(); });
 }
 
 } // namespace trellis

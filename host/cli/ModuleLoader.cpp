@@ -33,9 +33,7 @@ std::unique_ptr<ZOLIQRDCfgInterfaces> ModuleLoader::Load(ZOLGYRError& error) {
     void* factory = loaded ? ZOLDictionary::Find(TrellisModuleName) : nullptr;
     if (!factory) {
         const char* reason = loaded ? nullptr : dlerror();
-        error.Set(ModuleNotLoaded, 1);
-        error.Add(file.string());
-        error.Add(reason ? reason : "it does not register itself");
+        error.Set(ModuleNotLoaded, 1, {file.string(), reason ? reason : "it does not register itself"});
         return nullptr;
     }
     return std::unique_ptr<ZOLIQRDCfgInterfaces>(reinterpret_cast<TrellisFactory>(factory)());

@@ -14,21 +14,25 @@ using Parts = ModuleOperation::Parts;
 constexpr int DateMilestone = 1;
 constexpr int RangeMilestone = 2;
 
-ModuleOperation OnSelection(const char* name, void (Interface::*operation)(ZOLDialog*, int, ZOLDMInstance*, ZOLGYRError&)) {
+ModuleOperation OnSelection(const char* name,
+                            void (Interface::*operation)(ZOLDialog*, int, ZOLDMInstance*, ZOLGYRError&)) {
     return {name, false, [operation](Interface& module, ZOLDialog* parent, Parts& parts, ZOLGYRError& error) {
                 (module.*operation)(parent, static_cast<int>(parts.size()), parts.data(), error);
             }};
 }
 
-ModuleOperation OnOnePart(const char* name, void (Interface::*operation)(ZOLDialog*, ZOLDMInstance&, ZOLGYRError&)) {
+ModuleOperation OnOnePart(const char* name,
+                          void (Interface::*operation)(ZOLDialog*, ZOLDMInstance&, ZOLGYRError&)) {
     return {name, true, [operation](Interface& module, ZOLDialog* parent, Parts& parts, ZOLGYRError& error) {
                 (module.*operation)(parent, parts.front(), error);
             }};
 }
 
 ModuleOperation OnMilestones(const char* name, int type,
-                             void (Interface::*operation)(ZOLDialog*, int, ZOLDMInstance*, ZOLGYRError&, int)) {
-    return {name, false, [operation, type](Interface& module, ZOLDialog* parent, Parts& parts, ZOLGYRError& error) {
+                             void (Interface::*operation)(ZOLDialog*, int, ZOLDMInstance*, ZOLGYRError&,
+                                                          int)) {
+    return {name, false,
+            [operation, type](Interface& module, ZOLDialog* parent, Parts& parts, ZOLGYRError& error) {
                 (module.*operation)(parent, static_cast<int>(parts.size()), parts.data(), error, type);
             }};
 }
@@ -45,7 +49,9 @@ const std::vector<ModuleOperation>& ModuleOperation::All() {
         OnOnePart("SetConfigurable", &Interface::SetConfigurable),
         OnSelection("UnSetConfigurable", &Interface::UnSetConfigurable),
         {"Validate", false,
-         [](Interface& module, ZOLDialog* parent, Parts&, ZOLGYRError& error) { module.Validate(parent, error); }},
+         [](Interface& module, ZOLDialog* parent, Parts&, ZOLGYRError& error) {
+             module.Validate(parent, error);
+         }},
         OnOnePart("PartCfgAnalysis", &Interface::PartCfgAnalysis),
         OnSelection("AvailableTypes", &Interface::AvailableTypes),
         OnOnePart("SetDefaultCH", &Interface::SetDefaultCH),

@@ -59,8 +59,9 @@ void DeclarePerson(CLI::App& database, Job& job) {
     person.add_option("--privilege", arguments->privilege, "2 overrides Set, 10 all overridable refusals");
     person.callback([&job, arguments] {
         job = Change([arguments](ZOLGYRError& error) {
-            return SiteAdministration::SetPerson({arguments->name, arguments->first, arguments->last, arguments->role,
-                                                  arguments->organization, arguments->privilege},
+            return SiteAdministration::SetPerson({arguments->name, arguments->first, arguments->last,
+                                                  arguments->role, arguments->organization,
+                                                  arguments->privilege},
                                                  error);
         });
     });
@@ -72,7 +73,8 @@ void DeclareRight(CLI::App& database, Job& job) {
         std::string function, role, organization, site;
     };
     const auto arguments = std::make_shared<Arguments>();
-    CLI::App& right = *database.add_subcommand("right", "allow or refuse a function, or forget what was said of it");
+    CLI::App& right =
+        *database.add_subcommand("right", "allow or refuse a function, or forget what was said of it");
     right.add_option("VERDICT", arguments->verdict, "allow, refuse or forget")
         ->required()
         ->check(CLI::IsMember({"allow", "refuse", "forget"}));
@@ -82,8 +84,8 @@ void DeclareRight(CLI::App& database, Job& job) {
     right.add_option("--site", arguments->site, "at one site; none: at all");
     right.callback([&job, arguments] {
         job = Change([arguments](ZOLGYRError& error) {
-            const RightEntry entry{arguments->function, arguments->role, arguments->organization, arguments->site,
-                                   arguments->verdict == "allow"};
+            const RightEntry entry{arguments->function, arguments->role, arguments->organization,
+                                   arguments->site, arguments->verdict == "allow"};
             return arguments->verdict == "forget" ? SiteAdministration::RemoveRight(entry, error)
                                                   : SiteAdministration::SetRight(entry, error);
         });
@@ -110,7 +112,8 @@ void DeclareValue(CLI::App& database, Job& job) {
     set.add_option("VALUE", value->second)->required();
     set.callback([&job, value] {
         job = Change([value](ZOLGYRError& error) {
-            return SiteAdministration::SetAdministratorValue(value->first, ZOLIQrdServices::Group, value->second, error);
+            return SiteAdministration::SetAdministratorValue(value->first, ZOLIQrdServices::Group,
+                                                             value->second, error);
         });
     });
 }
@@ -125,7 +128,8 @@ void DeclarePeopleCommands(CLI::App& database, Job& job) {
                  [](const ZOLUnicodeString& name, const ZOLUnicodeString&, ZOLGYRError& error) {
                      return SiteAdministration::AddSite(name, error);
                  });
-    DeclareNamed(database, job, "organization", "add an organization", "--site", SiteAdministration::AddOrganization);
+    DeclareNamed(database, job, "organization", "add an organization", "--site",
+                 SiteAdministration::AddOrganization);
     DeclareNamed(database, job, "role", "add a role", "--organization", SiteAdministration::AddRole);
     DeclarePerson(database, job);
     DeclareRight(database, job);

@@ -46,8 +46,7 @@ ExitCode PlayScript(HostSession& session, const std::string& file) {
     std::string script;
     if (!ReadScript(file, script)) {
         ZOLGYRError error;
-        error.Set(ScriptUnreadable, 0);
-        error.Add(file);
+        error.Set(ScriptUnreadable, 0, {file});
         MessageOutput::Print(error);
         return ExitCode::EnvironmentFailed;
     }
@@ -79,7 +78,8 @@ void DeclareScriptCommand(CLI::App& program, Job& job) {
         bool verbs = false;
     };
     const auto arguments = std::make_shared<Arguments>();
-    CLI::App& script = *program.add_subcommand("script", "play a script of a user's actions, and print what comes up");
+    CLI::App& script =
+        *program.add_subcommand("script", "play a script of a user's actions, and print what comes up");
     auto* file = script.add_option("FILE", arguments->file, "the script; - is the standard input");
     auto* verbs = script.add_flag("--verbs", arguments->verbs, "list the verbs instead");
     file->excludes(verbs);

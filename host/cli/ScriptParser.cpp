@@ -81,9 +81,7 @@ std::vector<ScriptLine> ScriptParser::Parse(const std::string& script, std::vect
             continue;
         if (reader.Reason()) {
             ZOLGYRError problem;
-            problem.Set(LineNotUnderstood, 0);
-            problem.Add(std::to_string(number));
-            problem.Add(*reader.Reason());
+            problem.Set(LineNotUnderstood, 0, {std::to_string(number), *reader.Reason()});
             problems.push_back(problem);
             continue;
         }

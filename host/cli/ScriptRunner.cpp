@@ -16,11 +16,9 @@ constexpr int UnexpectedMessage = 60623;
 constexpr int UnusedAnswers = 60624;
 const char* const ExpectVerb = "expect";
 
-ZOLGYRError Problem(int code, std::initializer_list<std::string> parameters) {
+ZOLGYRError Problem(int code, std::initializer_list<ZOLUnicodeString> parameters) {
     ZOLGYRError error;
-    error.Set(code, 0);
-    for (const std::string& parameter : parameters)
-        error.Add(parameter);
+    error.Set(code, 0, parameters);
     return error;
 }
 

@@ -41,7 +41,8 @@ ZOLUnicodeString StructureTree::State(const ZOLDMInstance& part) {
            Counted(options.Size(), "option", "options");
 }
 
-StructureTree::StructureTree(const ZOLListValZOLDMInstance& roots, int levels) : _roots(roots), _levels(levels) {
+StructureTree::StructureTree(const ZOLListValZOLDMInstance& roots, int levels)
+    : _roots(roots), _levels(levels) {
     ReadLevels();
 }
 
@@ -69,7 +70,8 @@ void StructureTree::ReadLevels() {
 
 std::vector<ZOLDMInstance> StructureTree::Below(const ZOLDMInstance& part, const Path& path) const {
     const auto found = _children.find(part);
-    const bool ends = static_cast<int>(path.size()) == _levels || std::find(path.begin(), path.end(), part) != path.end();
+    const bool ends =
+        static_cast<int>(path.size()) == _levels || std::find(path.begin(), path.end(), part) != path.end();
     return found == _children.end() || ends ? std::vector<ZOLDMInstance>() : found->second;
 }
 

@@ -44,7 +44,8 @@ ExitCode PrintTree(HostSession& session, const Arguments& arguments) {
 void DeclareTreeCommand(CLI::App& program, Job& job) {
     const auto arguments = std::make_shared<Arguments>();
     CLI::App& tree = *program.add_subcommand("tree", "print a product structure with what is configurable");
-    tree.add_option("--product", arguments->product, "number, id or name of one part; none: all that nothing holds")
+    tree.add_option("--product", arguments->product,
+                    "number, id or name of one part; none: all that nothing holds")
         ->type_name("PART");
     tree.add_option("--levels", arguments->levels, "how many levels of links below; none: all")
         ->check(CLI::NonNegativeNumber);

@@ -26,7 +26,8 @@ public:
     // Takes configurability from parts, asking 20296 for each that has effectivities, and saves once. Clears. 20295
     // with the name when the only part is not configurable (among several it is passed over); the number of the
     // right "Unset" when that is refused and the privilege is below 10, which ends the work before the save.
-    virtual void UnSetConfigurable(ZOLDialog* parent, int count, ZOLDMInstance* parts, ZOLGYRError& error) = 0;
+    virtual void UnSetConfigurable(ZOLDialog* parent, int count, ZOLDMInstance* parts,
+                                   ZOLGYRError& error) = 0;
     // Opens the panel that validates modifications.
     virtual void Validate(ZOLDialog* parent, ZOLGYRError& error) = 0;
     // Lists the links of a part with their effectivities.
@@ -39,9 +40,11 @@ public:
     // for one that is not configurable.
     virtual void SetConfigHandler(ZOLDialog* parent, int count, ZOLDMInstance* parts, ZOLGYRError& error) = 0;
     // Opens the panel of planned effectivities; the parts are not used.
-    virtual void PlannedEffectivity(ZOLDialog* parent, int count, ZOLDMInstance* parts, ZOLGYRError& error) = 0;
+    virtual void PlannedEffectivity(ZOLDialog* parent, int count, ZOLDMInstance* parts,
+                                    ZOLGYRError& error) = 0;
     // Opens the dictionary manager. Clears. The first part that is not configurable stops it with its code.
-    virtual void OpenCategoryManager(ZOLDialog* parent, int count, ZOLDMInstance* parts, ZOLGYRError& error) = 0;
+    virtual void OpenCategoryManager(ZOLDialog* parent, int count, ZOLDMInstance* parts,
+                                     ZOLGYRError& error) = 0;
     // Opens the rule manager. A part that is not configurable stops it with its code, one without a dictionary with
     // 20297 and its name.
     virtual void OpenRuleManager(ZOLDialog* parent, int count, ZOLDMInstance* parts, ZOLGYRError& error) = 0;

@@ -61,5 +61,6 @@ private:
         return value != nullptr;
     }
 
-    std::variant<std::monostate, ZOLUnicodeString, int, ZOLTimeValue, _SEQUENCE_octet, _SEQUENCE_CORBAAny> _value;
+    std::variant<std::monostate, ZOLUnicodeString, int, ZOLTimeValue, _SEQUENCE_octet, _SEQUENCE_CORBAAny>
+        _value;
 };

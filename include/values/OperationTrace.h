@@ -8,7 +8,8 @@ namespace trellis {
 // out. The carrier must outlive it.
 class OperationTrace {
 public:
-    OperationTrace(const char* method, int level, const ZOLGYRError& error) : _trace(method, level, 0), _error(error) {}
+    OperationTrace(const char* method, int level, const ZOLGYRError& error)
+        : _trace(method, level, 0), _error(error) {}
     ~OperationTrace() { _trace.OutEnd(_error); }
     OperationTrace(const OperationTrace&) = delete;
     OperationTrace& operator=(const OperationTrace&) = delete;

@@ -15,8 +15,8 @@ public:
     static std::string Root();
     // The folders that exist, in the order of the search.
     static std::vector<std::string> Search();
-    // The first file of that name, or an empty text. Names with a folder in them are not looked for.
-    static std::string Find(const std::string& fileName);
+    // The files of that name, in the order of the search. Names with a folder in them are not looked for.
+    static std::vector<std::string> FindAll(const std::string& fileName);
 };
 
 } // namespace trellis

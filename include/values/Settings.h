@@ -55,8 +55,8 @@ public:
     void Load(std::vector<ZOLGYRError>& problems);
     void LoadFile(const std::string& path, SettingOrigin origin, std::vector<ZOLGYRError>& problems);
     // Declares one value, checked as above.
-    void Declare(const std::string& key, const std::string& value, SettingOrigin origin, const std::string& place,
-                 std::vector<ZOLGYRError>& problems);
+    void Declare(const std::string& key, const std::string& value, SettingOrigin origin,
+                 const std::string& place, std::vector<ZOLGYRError>& problems);
     void Forget() { _values.clear(); }
 
     // What is declared for a key by its strongest origin.

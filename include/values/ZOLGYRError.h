@@ -3,6 +3,7 @@
 #include "values/TrellisApi.h"
 #include "values/ZOLUnicodeString.h"
 
+#include <initializer_list>
 #include <vector>
 
 // ZOLGYRError: the error carrier that travels by reference through nearly every operation.
@@ -23,6 +24,8 @@ public:
     // Sets code and mode, and replaces the texts by `first` and the `count` texts of the array behind it.
     void Set(const int code, const int mode, const ZOLUnicodeString first, const int count,
              const ZOLUnicodeString* others);
+    // The same with all texts in one list.
+    void Set(const int code, const int mode, std::initializer_list<ZOLUnicodeString> parameters);
     // Appends one parameter of the message; order is kept, before or after Set.
     void Add(const ZOLUnicodeString& parameter) { _parameters.push_back(parameter); }
     // Puts a text in place of the one of the catalogue: for errors that bring their own words.

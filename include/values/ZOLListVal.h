@@ -11,7 +11,7 @@
 
 template <class T>
 concept ZOLHashable = requires(const T& value) {
-    { std::hash<T>{}(value) };
+    {std::hash<T>{}(value)};
 };
 
 // ZOLListVal: a list of values, counted from 1. An index outside 1..Size() ends the process with function and
@@ -60,7 +60,8 @@ public:
             RemovePosition(position);
     }
     void RemovePosition(int position) {
-        _values.erase(_values.begin() + static_cast<std::ptrdiff_t>(Checked(position, "ZOLListVal::RemovePosition")));
+        _values.erase(_values.begin() +
+                      static_cast<std::ptrdiff_t>(Checked(position, "ZOLListVal::RemovePosition")));
     }
     void RemoveAll(ZOLCollec::MemoryHandling memory = ZOLCollec::KeepMemory) {
         _values.clear();

@@ -8,12 +8,12 @@ struct ZOLMetaObject {
 };
 
 // Declares, inside a class, its meta object and the override that gives it.
-#define ZOL_META_OBJECT(Class, Base)                                                                              \
-public:                                                                                                          \
-    static const ZOLMetaObject& Meta() {                                                                          \
-        static const ZOLMetaObject meta{#Class, &Base::Meta()};                                                   \
-        return meta;                                                                                              \
-    }                                                                                                            \
-    const ZOLMetaObject& GetMetaObject() const override {                                                         \
-        return Meta();                                                                                            \
+#define ZOL_META_OBJECT(Class, Base)                                                                         \
+public:                                                                                                      \
+    static const ZOLMetaObject& Meta() {                                                                     \
+        static const ZOLMetaObject meta{#Class, &Base::Meta()};                                              \
+        return meta;                                                                                         \
+    }                                                                                                        \
+    const ZOLMetaObject& GetMetaObject() const override {                                                    \
+        return Meta();                                                                                       \
     }

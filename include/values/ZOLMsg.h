@@ -12,5 +12,6 @@ public:
     // vanishes; so does a segment in braces { } in which any parameter is missing, braces never show. Parameters
     // that no place names are appended behind a colon, separated by commas, so that nothing told gets lost.
     // Parameters are inserted as they are: a %1 or a brace inside a parameter is plain text.
-    static ZOLUnicodeString BuildMessage(const ZOLUnicodeString& text, const std::vector<ZOLUnicodeString>& parameters);
+    static ZOLUnicodeString BuildMessage(const ZOLUnicodeString& text,
+                                         const std::vector<ZOLUnicodeString>& parameters);
 };

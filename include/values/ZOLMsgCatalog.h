@@ -7,8 +7,7 @@
 
 // ZOLMsgCatalog: the texts of one message catalogue, by key: "messages" holds the texts of all numbers,
 // "RuleKeyWords" the words of the rule language. A catalogue is a file of lines "key text" (# begins a comment,
-// \n stands for a line feed); it is looked for in the folder of the site, then of the language, then of English,
-// and read once.
+// \n stands for a line feed). Each text is taken from the folder of the site, else of the language, else of English.
 class TRELLIS_API ZOLMsgCatalog {
 public:
     explicit ZOLMsgCatalog(const ZOLUnicodeString& name);

@@ -25,5 +25,7 @@ private:
 
 template <>
 struct std::hash<ZOLString> {
-    std::size_t operator()(const ZOLString& text) const noexcept { return std::hash<std::string_view>{}(text.View()); }
+    std::size_t operator()(const ZOLString& text) const noexcept {
+        return std::hash<std::string_view>{}(text.View());
+    }
 };

@@ -22,8 +22,8 @@ public:
     ZOLVar(const ZOLVar& other) : _object(other._object) { Hold(); }
     ZOLVar(ZOLVar&& other) noexcept : _object(std::exchange(other._object, nullptr)) {}
     template <class U>
-        requires(std::is_convertible_v<U*, T*> && !std::is_same_v<U, T>)
-    ZOLVar(const ZOLVar<U>& other) : _object(other.Get()) {
+    requires(std::is_convertible_v<U*, T*> && !std::is_same_v<U, T>) ZOLVar(const ZOLVar<U>& other)
+        : _object(other.Get()) {
         Hold();
     }
     ~ZOLVar() { Drop(); }

@@ -34,14 +34,15 @@ std::vector<std::string> ResourceFolders::Search() {
     return folders;
 }
 
-std::string ResourceFolders::Find(const std::string& fileName) {
+std::vector<std::string> ResourceFolders::FindAll(const std::string& fileName) {
+    std::vector<std::string> files;
     if (fileName.empty() || fileName.find('/') != std::string::npos)
-        return {};
+        return files;
     std::error_code none;
     for (const std::string& folder : Search())
         if (const fs::path file = fs::path(folder) / fileName; fs::is_regular_file(file, none))
-            return file.string();
-    return {};
+            files.push_back(file.string());
+    return files;
 }
 
 } // namespace trellis

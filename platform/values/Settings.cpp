@@ -21,17 +21,16 @@ constexpr int NotLogical = 60012;
 constexpr int UnknownKey = 60013;
 constexpr int KeyOfTheSite = 60014;
 
-ZOLGYRError Problem(int code, int mode, std::initializer_list<std::string> parameters) {
+ZOLGYRError Problem(int code, int mode, std::initializer_list<ZOLUnicodeString> parameters) {
     ZOLGYRError error;
-    error.Set(code, mode);
-    for (const std::string& parameter : parameters)
-        error.Add(parameter);
+    error.Set(code, mode, parameters);
     return error;
 }
 
 std::string Stripped(const std::string& text) {
     const std::size_t first = text.find_first_not_of(" \t\r");
-    return first == std::string::npos ? std::string() : text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
+    return first == std::string::npos ? std::string()
+                                      : text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
 }
 
 bool IsUtf8(const std::string& text) {

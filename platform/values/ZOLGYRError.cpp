@@ -21,11 +21,15 @@ void ZOLGYRError::Set(const int code, const int mode) {
 
 void ZOLGYRError::Set(const int code, const int mode, const ZOLUnicodeString first, const int count,
                       const ZOLUnicodeString* others) {
-    Set(code, mode);
-    _longMessage = ZOLUnicodeString();
-    _parameters.assign(1, first);
+    Set(code, mode, {first});
     for (int i = 0; i < count; ++i)
         _parameters.push_back(others[i]);
+}
+
+void ZOLGYRError::Set(const int code, const int mode, std::initializer_list<ZOLUnicodeString> parameters) {
+    Set(code, mode);
+    _longMessage = ZOLUnicodeString();
+    _parameters.assign(parameters.begin(), parameters.end());
 }
 
 void ZOLGYRError::GetLongMsg(ZOLUnicodeString& message) const {

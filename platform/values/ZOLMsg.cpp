@@ -62,6 +62,7 @@ private:
 
 } // namespace
 
-ZOLUnicodeString ZOLMsg::BuildMessage(const ZOLUnicodeString& text, const std::vector<ZOLUnicodeString>& parameters) {
+ZOLUnicodeString ZOLMsg::BuildMessage(const ZOLUnicodeString& text,
+                                      const std::vector<ZOLUnicodeString>& parameters) {
     return MessageWriter(text.Bytes(), parameters).Write();
 }

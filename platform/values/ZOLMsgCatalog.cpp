@@ -6,6 +6,8 @@
 #include <fstream>
 #include <map>
 #include <unordered_map>
+#include <utility>
+#include <vector>
 
 struct ZOLMsgCatalog::Texts {
     std::unordered_map<std::string, ZOLUnicodeString> byKey;
@@ -19,28 +21,31 @@ std::string WithLineFeeds(std::string text) {
     return text;
 }
 
-std::shared_ptr<const ZOLMsgCatalog::Texts> Read(const std::string& path) {
-    auto texts = std::make_shared<ZOLMsgCatalog::Texts>();
+// The texts of a key in the file that is found first stand.
+void Read(const std::string& path, ZOLMsgCatalog::Texts& texts) {
     std::ifstream file(path);
     for (std::string line; std::getline(file, line);) {
         const std::size_t blank = line.find(' ');
         if (line.empty() || line.front() == '#' || blank == std::string::npos)
             continue;
-        texts->byKey.emplace(line.substr(0, blank), WithLineFeeds(line.substr(blank + 1)));
+        texts.byKey.emplace(line.substr(0, blank), WithLineFeeds(line.substr(blank + 1)));
     }
-    return texts;
 }
 
-// Catalogues are kept by path: the folders may change with the language, the files do not while the process runs.
+// Catalogues are kept with the folders they came from: those may change with the language, the files do not while
+// the process runs.
 std::shared_ptr<const ZOLMsgCatalog::Texts> Open(const std::string& name) {
-    static std::map<std::string, std::shared_ptr<const ZOLMsgCatalog::Texts>> open;
-    const std::string path = trellis::ResourceFolders::Find(name);
-    if (path.empty())
+    static std::map<std::pair<std::string, std::vector<std::string>>, std::shared_ptr<const ZOLMsgCatalog::Texts>> open;
+    const std::vector<std::string> files = trellis::ResourceFolders::FindAll(name);
+    auto& texts = open[{name, files}];
+    if (texts)
+        return texts;
+    if (files.empty())
         ZOLGYRTrace::Note("message catalogue " + name + " not found");
-    auto& texts = open[path];
-    if (!texts)
-        texts = Read(path);
-    return texts;
+    const auto read = std::make_shared<ZOLMsgCatalog::Texts>();
+    for (const std::string& file : files)
+        Read(file, *read);
+    return texts = read;
 }
 
 } // namespace

@@ -75,7 +75,8 @@ void ZOLUnicodeString::ToUpper() {
                 break;
             end += step;
         }
-        icu::UnicodeString::fromUTF8(icu::StringPiece(_bytes.data() + at, static_cast<std::int32_t>(end - at)))
+        icu::UnicodeString::fromUTF8(
+            icu::StringPiece(_bytes.data() + at, static_cast<std::int32_t>(end - at)))
             .toUpper(icu::Locale::getRoot())
             .toUTF8String(upper);
         if (end < _bytes.size())
@@ -97,7 +98,8 @@ void ZOLUnicodeString::Replace(const ZOLUnicodeString& from, const ZOLUnicodeStr
         return;
     const std::string what = from._bytes;
     const std::string with = to._bytes;
-    for (std::size_t at = _bytes.find(what); at != std::string::npos; at = _bytes.find(what, at + with.size()))
+    for (std::size_t at = _bytes.find(what); at != std::string::npos;
+         at = _bytes.find(what, at + with.size()))
         _bytes.replace(at, what.size(), with);
 }
 
@@ -117,8 +119,9 @@ int ZOLUnicodeString::ConvertToNum(int* number, const char* format) const {
 ZOLUnicodeString ZOLUnicodeString::FromNumber(int number, const char* format) {
     // Formats are data of callers: only "%d" with digits and a point between is handed to the C library.
     const std::string_view shape(format);
-    const bool plain = shape.size() >= 2 && shape.size() <= 6 && shape.front() == '%' && shape.back() == 'd' &&
-                       shape.substr(1, shape.size() - 2).find_first_not_of("0123456789.") == std::string_view::npos;
+    const bool plain =
+        shape.size() >= 2 && shape.size() <= 6 && shape.front() == '%' && shape.back() == 'd' &&
+        shape.substr(1, shape.size() - 2).find_first_not_of("0123456789.") == std::string_view::npos;
     if (!plain)
         return std::to_string(number);
     char text[128];

@@ -76,19 +76,25 @@ bool AnyConfigurable(ZOLQRDCfgManager& manager, std::span<ZOLDMInstance> instanc
     return error.GetCode() == 0;
 }
 
-// The configurable object of one of `count` instances. An instance that is none is passed over in silence; the
-// only one is reported by its name.
-bool FetchObject(ZOLQRDCfgManager& manager, const ZOLDMInstance& instance, std::size_t count,
-                 ZOLQRDConfigurableObject& object, ZOLGYRError& error) {
-    ZOLGYRError local;
-    manager.GetConfigurableObject(instance, object, local);
-    if (local.GetCode() == 0)
-        return true;
-    if (count == 1) {
-        error.Add(DisplayName(instance));
-        error.Set(OnlyInstanceNotConfigurable);
+// Treats every instance that is configurable, in order, until `treat` answers false. An instance that is not
+// configurable is passed over in silence; the only one is reported by its name. False when the work ended early.
+template <class Treat>
+bool TreatConfigurable(ZOLQRDCfgManager& manager, std::span<ZOLDMInstance> instances, ZOLGYRError& error,
+                       Treat treat) {
+    for (ZOLDMInstance& instance : instances) {
+        ZOLGYRError local;
+        ZOLQRDConfigurableObject object;
+        manager.GetConfigurableObject(instance, object, local);
+        if (local.GetCode() == 0) {
+            if (!treat(instance, object))
+                return false;
+        } else if (instances.size() == 1) {
+            error.Add(DisplayName(instance));
+            error.Set(OnlyInstanceNotConfigurable);
+            return false;
+        }
     }
-    return false;
+    return true;
 }
 
 bool UserAgrees(ZOLDialog* parent, int question, const ZOLDMInstance& instance) {
@@ -109,7 +115,8 @@ bool HasEffectivities(const ZOLQRDConfigurableObject& object) {
 
 } // namespace
 
-void ZOLQRDCfgInterfacesInt::Usage(ZOLDialog*, ZOLListValZOLUnicodeString&, ZOLDMInstance&, ZOLGYRError& error) {
+void ZOLQRDCfgInterfacesInt::Usage(ZOLDialog*, ZOLListValZOLUnicodeString&, ZOLDMInstance&,
+                                   ZOLGYRError& error) {
     const OperationTrace trace("ZOLQRDCfgInterfacesInt::Usage", TraceLevel, error);
     SetNotInThisBuild(error, "Usage");
 }
@@ -141,21 +148,15 @@ void ZOLQRDCfgInterfacesInt::UnSetConfigurable(ZOLDialog* parent, int count, ZOL
     ZOLQRDCfgManager* manager = ZOLQRDCfgManager::CurrentCfgManager(error);
     if (error.GetCode() != 0 || count < 1)
         return;
-    for (ZOLDMInstance& part : Instances(count, parts)) {
-        ZOLQRDConfigurableObject object;
-        if (!FetchObject(*manager, part, static_cast<std::size_t>(count), object, error)) {
-            if (count == 1)
-                return;
-            continue;
-        }
+    const auto unset = [&](ZOLDMInstance& part, const ZOLQRDConfigurableObject& object) {
         if (!RightHolds("Unset", part, error))
-            return;
+            return false;
         if (!HasEffectivities(object) || UserAgrees(parent, AskWithEffectivities, part))
             ZOLQRDCfgBase::UnsetConfigurable(part, error);
-        if (error.GetCode() != 0)
-            return;
-    }
-    manager->Save(error);
+        return error.GetCode() == 0;
+    };
+    if (TreatConfigurable(*manager, Instances(count, parts), error, unset))
+        manager->Save(error);
 }
 
 void ZOLQRDCfgInterfacesInt::Validate(ZOLDialog*, ZOLGYRError& error) {
@@ -177,7 +178,8 @@ void ZOLQRDCfgInterfacesInt::SetDefaultCH(ZOLDialog* parent, ZOLDMInstance&, ZOL
     ZOLGYRDlgError::Display(parent, error, 0);
 }
 
-void ZOLQRDCfgInterfacesInt::SetConfigHandler(ZOLDialog*, int count, ZOLDMInstance* parts, ZOLGYRError& error) {
+void ZOLQRDCfgInterfacesInt::SetConfigHandler(ZOLDialog*, int count, ZOLDMInstance* parts,
+                                              ZOLGYRError& error) {
     const OperationTrace trace("ZOLQRDCfgInterfacesInt::SetConfigHandler", TraceLevel, error);
     error.Clear();
     if (count != 0 && count != 1) {
@@ -196,7 +198,8 @@ void ZOLQRDCfgInterfacesInt::PlannedEffectivity(ZOLDialog*, int, ZOLDMInstance*,
     SetNotInThisBuild(error, "PlannedEffectivity");
 }
 
-void ZOLQRDCfgInterfacesInt::OpenCategoryManager(ZOLDialog*, int count, ZOLDMInstance* parts, ZOLGYRError& error) {
+void ZOLQRDCfgInterfacesInt::OpenCategoryManager(ZOLDialog*, int count, ZOLDMInstance* parts,
+                                                 ZOLGYRError& error) {
     const OperationTrace trace("ZOLQRDCfgInterfacesInt::OpenCategoryManager", TraceLevel, error);
     error.Clear();
     ZOLQRDCfgManager* manager = ZOLQRDCfgManager::CurrentCfgManager(error);
@@ -205,7 +208,8 @@ void ZOLQRDCfgInterfacesInt::OpenCategoryManager(ZOLDialog*, int count, ZOLDMIns
     SetNotInThisBuild(error, "OpenCategoryManager");
 }
 
-void ZOLQRDCfgInterfacesInt::OpenRuleManager(ZOLDialog*, int count, ZOLDMInstance* parts, ZOLGYRError& error) {
+void ZOLQRDCfgInterfacesInt::OpenRuleManager(ZOLDialog*, int count, ZOLDMInstance* parts,
+                                             ZOLGYRError& error) {
     const OperationTrace trace("ZOLQRDCfgInterfacesInt::OpenRuleManager", TraceLevel, error);
     ZOLQRDCfgManager* manager = ZOLQRDCfgManager::CurrentCfgManager(error);
     if (error.GetCode() != 0)
@@ -231,27 +235,21 @@ void ZOLQRDCfgInterfacesInt::DeleteDictionary(ZOLDialog* parent, int count, ZOLD
     ZOLQRDCfgManager* manager = ZOLQRDCfgManager::CurrentCfgManager(error);
     if (error.GetCode() != 0 || count < 1)
         return;
-    for (ZOLDMInstance& part : Instances(count, parts)) {
-        ZOLQRDConfigurableObject object;
-        if (!FetchObject(*manager, part, static_cast<std::size_t>(count), object, error)) {
-            if (count == 1)
-                return;
-            continue;
-        }
+    const auto remove = [&](ZOLDMInstance& part, const ZOLQRDConfigurableObject& object) {
         if (object.GetDictionary() == NULL_var) {
+            // Does not stop the others, but while it stands nothing is saved.
             error.Set(NoDictionary);
             error.Add(DisplayName(part));
-            continue;
+            return true;
         }
         if (!RightHolds("DeleteOptionDictionary", part, error))
-            return;
-        if (UserAgrees(parent, AskDeleteDictionary, part)) {
-            manager->DeleteDictionary(part, error);
-            if (error.GetCode() != 0)
-                return;
-        }
-    }
-    if (error.GetCode() == 0)
+            return false;
+        if (!UserAgrees(parent, AskDeleteDictionary, part))
+            return true;
+        manager->DeleteDictionary(part, error);
+        return error.GetCode() == 0;
+    };
+    if (TreatConfigurable(*manager, Instances(count, parts), error, remove) && error.GetCode() == 0)
         manager->Save(error);
 }
 
@@ -261,8 +259,8 @@ void ZOLQRDCfgInterfacesInt::ImportDictionary(ZOLDialog*, int, ZOLDMInstance*, Z
     SetNotInThisBuild(error, "ImportDictionary");
 }
 
-void ZOLQRDCfgInterfacesInt::OpenMilestoneManager(ZOLDialog*, int count, ZOLDMInstance* parts, ZOLGYRError& error,
-                                                  int milestoneType) {
+void ZOLQRDCfgInterfacesInt::OpenMilestoneManager(ZOLDialog*, int count, ZOLDMInstance* parts,
+                                                  ZOLGYRError& error, int milestoneType) {
     const OperationTrace trace("ZOLQRDCfgInterfacesInt::OpenMilestoneManager", TraceLevel, error);
     error.Clear();
     ZOLQRDCfgManager* manager = ZOLQRDCfgManager::CurrentCfgManager(error);

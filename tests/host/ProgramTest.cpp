@@ -30,21 +30,31 @@ protected:
 };
 
 // The exit code, the number and what the text must name.
-void ExpectFailure(const ProgramResult& result, int exitCode, const std::string& number, const std::string& named) {
+void ExpectFailure(const ProgramResult& result, int exitCode, const std::string& number,
+                   const std::string& named) {
     EXPECT_EQ(result.exitCode, exitCode);
     EXPECT_NE(result.messages.find(number + ": "), std::string::npos) << result.messages;
     EXPECT_NE(result.messages.find(named), std::string::npos) << result.messages;
 }
 
 TEST_F(ProgramTest, HelpAndVersionAreFineAndWrongUseIsTold) {
-    for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>>{
-             {"--help"}, {"--version"}, {"db", "--help"}, {"import", "structure", "--help"}, {"script", "--verbs"}}) {
+    for (const std::vector<std::string>& arguments :
+         std::vector<std::vector<std::string>>{{"--help"},
+                                               {"--version"},
+                                               {"db", "--help"},
+                                               {"import", "structure", "--help"},
+                                               {"script", "--verbs"}}) {
         const ProgramResult result = _program.Run(arguments);
         EXPECT_EQ(result.exitCode, 0) << arguments.front() << result.messages;
         EXPECT_FALSE(result.output.empty()) << arguments.front();
     }
-    for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>>{
-             {"nonsense"}, {"db"}, {"import", "structure"}, {"script"}, {"tree", "--levels", "-1"}, {"--no-such"}}) {
+    for (const std::vector<std::string>& arguments :
+         std::vector<std::vector<std::string>>{{"nonsense"},
+                                               {"db"},
+                                               {"import", "structure"},
+                                               {"script"},
+                                               {"tree", "--levels", "-1"},
+                                               {"--no-such"}}) {
         const ProgramResult result = _program.Run(arguments);
         EXPECT_EQ(result.exitCode, 2) << arguments.front();
         EXPECT_FALSE(result.messages.empty()) << arguments.front();
@@ -146,7 +156,8 @@ TEST_F(ProgramTest, ConfigTellsWhereEachValueComesFrom) {
 TEST_F(ProgramTest, CheckFindsWhatAnotherProgramBroke) {
     CreateWithPart();
     EXPECT_EQ(Trellis({"db", "check"}).exitCode, 0);
-    StoredDatabase(File()).Run("INSERT INTO link SELECT 77, 1, '', 0, uuid, 'x', id, 4711, 'lost', 1, '', '' FROM part");
+    StoredDatabase(File()).Run(
+        "INSERT INTO link SELECT 77, 1, '', 0, uuid, 'x', id, 4711, 'lost', 1, '', '' FROM part");
     const ProgramResult result = Trellis({"db", "check"});
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_FALSE(result.output.empty());

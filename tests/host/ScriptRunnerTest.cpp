@@ -70,7 +70,8 @@ protected:
 };
 
 TEST_F(ScriptRunnerTest, AnsweredQuestionsAndExpectedMessagesAreFine) {
-    EXPECT_EQ(Play("type NameEd \"Cargo \\\"bike\\\"\"\nanswer 1\nok\nexpect 50103 50116\ndescribe\n"), ExitCode::Fine)
+    EXPECT_EQ(Play("type NameEd \"Cargo \\\"bike\\\"\"\nanswer 1\nok\nexpect 50103 50116\ndescribe\n"),
+              ExitCode::Fine)
         << _output.str();
     EXPECT_TRUE(Wrote("Cargo \"bike\"")) << _output.str();
     EXPECT_EQ(Play("answer 2\nok\nlines List \"Cargo \\\"bike\\\"\"\nexpect nothing\n"), ExitCode::Fine)
@@ -114,8 +115,9 @@ RC_GTEST_PROP(ScriptParserTest, QuotedWordsComeBackAsTheyWere, ()) {
     for (const std::string& word : words) {
         line += " \"";
         for (const char letter : word)
-            line += letter == '\n' ? std::string("\\n") : letter == '"' || letter == '\\' ? std::string("\\") + letter
-                                                                                         : std::string(1, letter);
+            line += letter == '\n'                    ? std::string("\\n")
+                    : letter == '"' || letter == '\\' ? std::string("\\") + letter
+                                                      : std::string(1, letter);
         line += '"';
     }
     std::vector<ZOLGYRError> problems;

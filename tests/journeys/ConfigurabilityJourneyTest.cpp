@@ -47,13 +47,15 @@ protected:
     int ConfigurableParts() const { return Stored().Count("configurable_part"); }
     // As somebody would have left it who put the part into a range of numbers.
     void GiveEffectivity(const std::string& number) const {
-        Stored().Run("INSERT INTO effectivity SELECT 5000 + id, 1, 'test', 0, id, 'range', '', NULL, '', '', 0, 1, 9, '', '',"
+        Stored().Run("INSERT INTO effectivity SELECT 5000 + id, 1, 'test', 0, id, 'range', '', NULL, '', '', "
+                     "0, 1, 9, '', '',"
                      " '', '', 0, '', '', 0 FROM config_item WHERE status = 'C' AND design_uuid ="
                      " (SELECT uuid FROM part WHERE number = '" +
                      number + "')");
     }
     void AddPerson(const std::string& name, const std::string& privilege) const {
-        EXPECT_EQ(Trellis({"db", "person", name, "--role", "engineer", "--privilege", privilege}).exitCode, 0);
+        EXPECT_EQ(Trellis({"db", "person", name, "--role", "engineer", "--privilege", privilege}).exitCode,
+                  0);
     }
 
     TemporaryFolder _folder;
@@ -70,12 +72,14 @@ TEST_F(ConfigurabilityJourneyTest, APartIsMadeConfigurableOnceAndStaysSo) {
 }
 
 TEST_F(ConfigurabilityJourneyTest, WithEffectivitiesTheUserIsAskedAndANoKeepsAll) {
-    EXPECT_EQ(Play("select BIKE\ncall SetConfigurable\nselect FRAME\ncall SetConfigurable\n"), 0) << _transcript;
+    EXPECT_EQ(Play("select BIKE\ncall SetConfigurable\nselect FRAME\ncall SetConfigurable\n"), 0)
+        << _transcript;
     GiveEffectivity("BIKE");
     ASSERT_EQ(Stored().Count("effectivity"), 1);
 
     // No on the first does not spare the second, which has no effectivity and is not asked about.
-    EXPECT_EQ(Play("answer 2\nselect BIKE WHEEL FRAME\ncall UnSetConfigurable\nexpect 20296\n"), 0) << _transcript;
+    EXPECT_EQ(Play("answer 2\nselect BIKE WHEEL FRAME\ncall UnSetConfigurable\nexpect 20296\n"), 0)
+        << _transcript;
     EXPECT_TRUE(Shown("BIKE")) << _transcript;
     EXPECT_EQ(ConfigurableParts(), 1);
     EXPECT_EQ(Stored().Count("effectivity"), 1);
@@ -110,18 +114,21 @@ TEST_F(ConfigurabilityJourneyTest, MilestoneRightsKnowNoOverride) {
     AddPerson("one", "1");
     EXPECT_EQ(Trellis({"db", "right", "refuse", "ManageDateMilestone"}).exitCode, 0);
     AddPerson("ten", "10");
-    EXPECT_EQ(Play("login ten\nselect BIKE\ncall SetConfigurable\ncall OpenMilestoneManagerRange\nexpect 60001\n"
-                   "call OpenMilestoneManagerDate\n"),
-              1);
+    EXPECT_EQ(
+        Play("login ten\nselect BIKE\ncall SetConfigurable\ncall OpenMilestoneManagerRange\nexpect 60001\n"
+             "call OpenMilestoneManagerDate\n"),
+        1);
     EXPECT_TRUE(Shown("ManageDateMilestone") || Shown("date milestone")) << _transcript;
 }
 
 TEST_F(ConfigurabilityJourneyTest, ADictionaryIsDeletedOnlyAfterAYes) {
-    const std::string dictionary = _folder.Write("options.csv", "kind,category,name,description,mandatory,exclusive,default\n"
-                                                                "category,,Colour,,yes,yes,\n"
-                                                                "option,Colour,Red,,,,yes\n"
-                                                                "option,Colour,Blue,,,,\n");
-    EXPECT_EQ(Play("select BIKE\ncall SetConfigurable\ncall DeleteDictionary\nexpect 20297\n"), 0) << _transcript;
+    const std::string dictionary =
+        _folder.Write("options.csv", "record,category,name,description,mandatory,exclusive,default\n"
+                                     "category,,Colour,,yes,yes,\n"
+                                     "option,Colour,Red,,,,yes\n"
+                                     "option,Colour,Blue,,,,\n");
+    EXPECT_EQ(Play("select BIKE\ncall SetConfigurable\ncall DeleteDictionary\nexpect 20297\n"), 0)
+        << _transcript;
     const ProgramResult import = Trellis({"import", "dictionary", dictionary, "--product", "BIKE"});
     EXPECT_EQ(import.exitCode, 0) << import.messages;
     EXPECT_EQ(Stored().Count("effectivity"), 2);
@@ -136,7 +143,7 @@ TEST_F(ConfigurabilityJourneyTest, ADictionaryIsDeletedOnlyAfterAYes) {
 
 TEST_F(ConfigurabilityJourneyTest, ADictionaryOutlivesTheLossOfConfigurability) {
     const std::string dictionary =
-        _folder.Write("options.csv", "kind,category,name\ncategory,,Colour\noption,Colour,Red\n");
+        _folder.Write("options.csv", "record,category,name\ncategory,,Colour\noption,Colour,Red\n");
     EXPECT_EQ(Play("select BIKE\ncall SetConfigurable\n"), 0) << _transcript;
     EXPECT_EQ(Trellis({"import", "dictionary", dictionary, "--product", "BIKE"}).exitCode, 0);
     EXPECT_EQ(Play("select BIKE\ncall UnSetConfigurable\ncall SetConfigurable\nshow\n"), 0) << _transcript;

@@ -17,7 +17,8 @@ void Redirect(const std::string& file, int flags, int descriptor) {
 }
 
 [[noreturn]] void BecomeProgram(const std::vector<std::string>& arguments,
-                                const std::map<std::string, std::string>& environment, const TemporaryFolder& folder) {
+                                const std::map<std::string, std::string>& environment,
+                                const TemporaryFolder& folder) {
     Redirect(folder.Path("in"), O_RDONLY, STDIN_FILENO);
     Redirect(folder.Path("out"), O_WRONLY | O_CREAT | O_TRUNC, STDOUT_FILENO);
     Redirect(folder.Path("err"), O_WRONLY | O_CREAT | O_TRUNC, STDERR_FILENO);

@@ -33,7 +33,9 @@ public:
             throw std::runtime_error(message);
         return result;
     }
-    int Count(const std::string& fromWhere) const { return std::stoi(Run("SELECT count(*) FROM " + fromWhere)); }
+    int Count(const std::string& fromWhere) const {
+        return std::stoi(Run("SELECT count(*) FROM " + fromWhere));
+    }
 
 private:
     sqlite3* _database = nullptr;

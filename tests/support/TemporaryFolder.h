@@ -24,7 +24,9 @@ public:
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
-    std::string Path(const std::string& name = "") const { return (std::filesystem::path(_path) / name).string(); }
+    std::string Path(const std::string& name = "") const {
+        return (std::filesystem::path(_path) / name).string();
+    }
     // Writes a file, with the folders above it, and gives its path.
     std::string Write(const std::string& name, const std::string& content) const {
         const std::filesystem::path file = std::filesystem::path(_path) / name;

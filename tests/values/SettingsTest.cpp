@@ -8,8 +8,8 @@
 
 namespace {
 
-using trellis::Settings;
 using trellis::SettingOrigin;
+using trellis::Settings;
 using trellis::test::TemporaryFolder;
 
 const char* const Upper = "ZOLWVTA.QRD.UPPERCASE_CFG_ID";
@@ -27,7 +27,8 @@ protected:
         unsetenv(Settings::EnvironmentName("TRACE.SINK").c_str());
     }
 
-    void Declare(const std::string& key, const std::string& value, SettingOrigin origin = SettingOrigin::SiteFile) {
+    void Declare(const std::string& key, const std::string& value,
+                 SettingOrigin origin = SettingOrigin::SiteFile) {
         Settings::Current().Declare(key, value, origin, "test", _problems);
     }
 
@@ -72,8 +73,9 @@ TEST_F(SettingsTest, StrongerOriginsWinWhateverTheOrder) {
 }
 
 TEST_F(SettingsTest, AWrongLineIsToldWithItsPlaceAndTheRestIsRead) {
-    const std::string file =
-        _folder.Write("a.conf", "nonsense\nZOLWVTA.QRD.UPPERCASE_CFG_ID = maybe\nNO.SUCH.KEY = 1\nLANGUAGE = de\nX\xFF=1\n");
+    const std::string file = _folder.Write(
+        "a.conf",
+        "nonsense\nZOLWVTA.QRD.UPPERCASE_CFG_ID = maybe\nNO.SUCH.KEY = 1\nLANGUAGE = de\nX\xFF=1\n");
     Settings::Current().LoadFile(file, SettingOrigin::UserFile, _problems);
     ASSERT_EQ(_problems.size(), 4u);
     EXPECT_EQ(_problems[0].GetCode(), 60011);

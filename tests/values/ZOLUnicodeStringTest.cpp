@@ -32,7 +32,8 @@ TEST(ZOLUnicodeStringTest, PlacesOutsideTheTextAreLeftOut) {
 }
 
 TEST(ZOLUnicodeStringTest, UpperCaseFollowsUnicodeAndKeepsInvalidBytes) {
-    ZOLUnicodeString text("stra\xC3\x9F" "e \xFF\xC3 caf\xC3\xA9");
+    ZOLUnicodeString text("stra\xC3\x9F"
+                          "e \xFF\xC3 caf\xC3\xA9");
     text.ToUpper();
     EXPECT_EQ(text, "STRASSE \xFF\xC3 CAF\xC3\x89");
 }

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "toolkit/LayoutTypes.h"
+#include "values/TrellisApi.h"
+
+#include <optional>
+#include <unordered_map>
+#include <vector>
+
+class ZOLDialog;
+
+namespace trellis {
+
+class TextMeasure;
+
+// DialogLayout: where everything in a window stands, computed when somebody looks. Children stand below each
+// other or side by side with one spacing; in a column, a label with a field behind it makes one line of a
+// form, whose labels are equally wide; the buttons of a dialog stand in a row at the bottom; what grows
+// shares the room that is left.
+class TRELLIS_API DialogLayout {
+public:
+    // `size` is that of the window; where it is 0, or less than what the texts need, the natural one counts.
+    DialogLayout(const ZOLDialog& window, const TextMeasure& measure, LayoutSize size = {});
+
+    LayoutSize GetSize() const { return _size; }
+    // Where a dialog stands in the window; nothing for one that takes no room in it.
+    std::optional<LayoutRectangle> Find(const ZOLDialog& dialog) const;
+    // Where the row of buttons stands; empty in windows without one.
+    LayoutRectangle GetButtonRow() const { return _buttonRow; }
+
+private:
+    // Children that stand side by side. Aligned rows share the widths of their columns.
+    struct Row {
+        std::vector<const ZOLDialog*> cells;
+        bool isAligned = false;
+    };
+    struct Insets {
+        int side = 0;
+        int top = 0;
+        int bottom = 0;
+    };
+
+    std::vector<Row> RowsOf(const ZOLDialog& holder) const;
+    std::vector<int> ColumnWidths(const std::vector<Row>& rows);
+    Insets InsetsOf(const ZOLDialog& holder) const;
+    LayoutSize Natural(const ZOLDialog& dialog);
+    LayoutSize NaturalContent(const ZOLDialog& holder);
+    LayoutSize NaturalRow(const Row& row, const std::vector<int>& columns);
+    void Place(const ZOLDialog& dialog, const LayoutRectangle& area);
+    void PlaceRows(const std::vector<Row>& rows, const LayoutRectangle& area);
+    void PlaceRow(const Row& row, const std::vector<int>& columns, const LayoutRectangle& area);
+
+    const TextMeasure& _measure;
+    LayoutSize _size;
+    LayoutRectangle _buttonRow;
+    std::unordered_map<const ZOLDialog*, LayoutSize> _natural;
+    std::unordered_map<const ZOLDialog*, LayoutRectangle> _places;
+};
+
+} // namespace trellis

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "toolkit/ZOLDialog.h"
+
+// ZOLDlgWindow: a window of its own on the screen. It starts hidden, and nobody but the panel hides it: the
+// close box only sends.
+class TRELLIS_API ZOLDlgWindow : public ZOLDialog {
+    ZOL_META_OBJECT(ZOLDlgWindow, ZOLDialog)
+public:
+    // The father may be null: a window of the host. Style 0x200: it stays above its father; 0x2000000: modal.
+    ZOLDlgWindow(ZOLDialog* father, const ZOLString& name, unsigned long style = 0);
+
+    // Sent to this window itself, then its fathers, when the user closes it.
+    ZOLNotification* GetWindCloseNotification() { return &_closeNotification; }
+    void SetVisibility(int visibility) override;
+
+    virtual ZOLUserResult UserClose();
+
+    bool IsWindow() const override;
+    const char* GetKind() const override;
+    // The title under "<name>.Title", else under "<resource file>.Title", else the name.
+    ZOLUnicodeString GetFallbackTitle() const override;
+
+private:
+    ZOLNotification _closeNotification;
+};

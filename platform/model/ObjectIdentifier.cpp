@@ -1,0 +1,55 @@
+#include "model/ObjectIdentifier.h"
+
+#include "model/Sha256.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace trellis {
+
+namespace {
+
+constexpr char digits[] = "0123456789abcdef";
+
+// The digit in lower case, or 0 for any other character.
+char Digit(char character) {
+    const char lower =
+        character >= 'A' && character <= 'F' ? static_cast<char>(character - 'A' + 'a') : character;
+    return (lower >= '0' && lower <= '9') || (lower >= 'a' && lower <= 'f') ? lower : '\0';
+}
+
+} // namespace
+
+ObjectIdentifier::ObjectIdentifier(std::string_view text) {
+    if (text.size() != Length)
+        return;
+    std::string lower(Length, '\0');
+    std::transform(text.begin(), text.end(), lower.begin(), Digit);
+    if (lower.find('\0') == std::string::npos)
+        _digits = std::move(lower);
+}
+
+ObjectIdentifier::ObjectIdentifier(const ObjID& flat)
+    : ObjectIdentifier(std::string_view(flat.text, strnlen(flat.text, sizeof flat.text))) {}
+
+ObjectIdentifier ObjectIdentifier::Derived(std::string_view kind, std::string_view name) {
+    std::string text(kind);
+    text += '\0';
+    text += name;
+    ObjectIdentifier identifier;
+    for (const std::uint8_t octet : Sha256(text)) {
+        if (identifier._digits.size() == Length)
+            break;
+        identifier._digits += digits[octet >> 4];
+        identifier._digits += digits[octet & 15];
+    }
+    return identifier;
+}
+
+ObjID ObjectIdentifier::Flat() const {
+    ObjID flat{};
+    std::memcpy(flat.text, _digits.data(), _digits.size());
+    return flat;
+}
+
+} // namespace trellis

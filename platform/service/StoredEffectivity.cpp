@@ -1,0 +1,124 @@
+#include "service/StoredEffectivity.h"
+
+#include "service/DictionaryRights.h"
+#include "service/ItemEditor.h"
+
+#include <algorithm>
+
+namespace trellis {
+
+namespace {
+
+ZOLQRDTime DayOf(const std::string& text) {
+    ZOLGYRError noDate;
+    return text.empty() ? ZOLQRDTime() : ZOLQRDTime(ZOLUnicodeString(text), noDate);
+}
+
+int Number(std::int64_t value) {
+    return static_cast<int>(value);
+}
+
+} // namespace
+
+StoredEffectivity::StoredEffectivity(std::weak_ptr<ConfigurationMemory> memory,
+                                     RecordOf<EffectivityRow> record, RecordOf<ConfigItemRow> item)
+    : StoredHandle(std::move(memory), std::move(record)), _item(std::move(item)) {}
+
+bool StoredEffectivity::MayChange(ConfigurationMemory& memory, ZOLGYRError& error) const {
+    return MayChangeEffectivity(memory, _item, Row(), error);
+}
+
+ZOLIQrdConfigItem_var StoredEffectivity::GetConfigItem() const {
+    const std::shared_ptr<ConfigurationMemory> memory = Memory();
+    return memory ? memory->Handle(_item) : nullptr;
+}
+
+void StoredEffectivity::SetDescription(const ZOLUnicodeString& description, ZOLGYRError& error) {
+    SetMember(&EffectivityRow::description, description.Bytes(), error);
+}
+
+void StoredEffectivity::SetUsed(int used, ZOLGYRError& error) {
+    SetMember(&EffectivityRow::used, std::int64_t{used != 0}, error);
+}
+
+void StoredEffectivity::SetOption(const ZOLUnicodeString& name, ZOLGYRError& error) {
+    const std::shared_ptr<ConfigurationMemory> memory = Memory();
+    if (!IsDictionaryName(name, error) || !SetMember(&EffectivityRow::optionName, name.Bytes(), error) ||
+        !memory)
+        return;
+    if (ItemContent* content = memory->Content(_item, error))
+        content->IndexIsStale();
+}
+
+void StoredEffectivity::SetCategory(const ZOLUnicodeString& category, ZOLGYRError& error) {
+    SetMember(&EffectivityRow::categoryName, category.Bytes(), error);
+}
+
+void StoredEffectivity::GetPackOptions(ZOLListValZOLUnicodeString& options) const {
+    options.RemoveAll();
+    ZOLGYRError unread;
+    const std::shared_ptr<ConfigurationMemory> memory = Memory();
+    ItemContent* content = memory ? memory->Content(_item, unread) : nullptr;
+    if (!content)
+        return;
+    for (const auto& option : content->PackOptionsOf(Record()->Id()))
+        options.Append(ZOLUnicodeString(option->Row().optionName));
+}
+
+void StoredEffectivity::SetPackOptions(const ZOLListValZOLUnicodeString& options, ZOLGYRError& error) {
+    const std::shared_ptr<ConfigurationMemory> memory = Memory();
+    if (!memory || !Record()->IsAlive()) {
+        RefuseDead(*Record(), error);
+        return;
+    }
+    ZOLListValZOLUnicodeString present;
+    GetPackOptions(present);
+    if (std::ranges::equal(present, options) || !MayChange(*memory, error))
+        return;
+    if (ItemContent* content = memory->Content(_item, error))
+        SetPackOptionRows(*memory, *content, Record()->Id(), options, error);
+}
+
+ZOLQRDCfgEffectivity StoredEffectivity::TermOf(const EffectivityRow& row) const {
+    const int first = Number(row.first);
+    const int last = Number(row.last);
+    const ZOLQRDTime start = DayOf(row.startDate);
+    const ZOLQRDTime end = DayOf(row.endDate);
+    if (!ZOLQRDCfgEffectivityType::IsPackKind(row.type))
+        return {row.type, ZOLUnicodeString(row.optionName), first, last, start, end};
+    ZOLListValZOLUnicodeString options;
+    GetPackOptions(options);
+    return {row.type, options, first, last, start, end};
+}
+
+ZOLQRDCfgEffectivity StoredEffectivity::GetTerm() const {
+    const EffectivityRow& row = Row();
+    ZOLQRDCfgEffectivity term = TermOf(row);
+    term.SetCategory(row.categoryName);
+    term.SetDescription(row.description);
+    if (row.used == 0)
+        term.UnsetUsed();
+    term.SetMilestoneStart(row.startProgram, row.startMilestone, Number(row.startOffset));
+    term.SetMilestoneEnd(row.endProgram, row.endMilestone, Number(row.endOffset));
+
+    ZOLGYRError unread;
+    const std::shared_ptr<ConfigurationMemory> memory = Memory();
+    ItemContent* content = memory ? memory->Content(_item, unread) : nullptr;
+    if (!content)
+        return term;
+    ZOLListValZOLUnicodeString names;
+    ZOLListValZOLUnicodeString values;
+    for (const auto& attribute : content->AttributesOf(row.id)) {
+        names.Append(ZOLUnicodeString(attribute->Row().name));
+        values.Append(ZOLUnicodeString(attribute->Row().value));
+    }
+    term.SetAttrList(names, values);
+    return term;
+}
+
+} // namespace trellis
+
+ZOLQRDCfgEffectivity::ZOLQRDCfgEffectivity(const ZOLVar<ZOLIQrdEffectivity>& stored) {
+    if (stored)
+        *this = stored->GetTerm();
+}

@@ -1,0 +1,177 @@
+#include "service/ZOLQRDCfgBase.h"
+
+#include "model/ObjectIdentifier.h"
+#include "model/ZOLDMInstance.h"
+#include "service/DictionaryEditor.h"
+#include "service/DictionaryRights.h"
+#include "service/PartConfiguration.h"
+#include "service/StoredCategory.h"
+#include "site/ZOLIQrdSCManager.h"
+
+#include <compare>
+
+using trellis::CategoryRow;
+using trellis::ConfigItemRow;
+using trellis::ConfigurationMemory;
+using trellis::EffectivityRow;
+using trellis::PartConfiguration;
+using trellis::StoreQuery;
+
+namespace {
+
+std::string TextOf(const ZOLDMInstance& part) {
+    return trellis::ObjectIdentifier(part.GetUUId()).Text();
+}
+
+int Compare(const ZOLUnicodeString& a, const ZOLUnicodeString& b) {
+    return a.Bytes().compare(b.Bytes());
+}
+
+// Null handles before all others.
+template <class Handle, class Getter>
+int CompareHandles(const Handle& a, const Handle& b, Getter getter) {
+    if (!a || !b)
+        return static_cast<int>(static_cast<bool>(a)) - static_cast<int>(static_cast<bool>(b));
+    return Compare(((*a).*getter)(), ((*b).*getter)());
+}
+
+} // namespace
+
+void ZOLQRDCfgBase::UnsetConfigurable(const ZOLDMInstance& part, ZOLGYRError& error) {
+    if (const auto memory = ConfigurationMemory::Current(error))
+        PartConfiguration(*memory).Unset(TextOf(part), error);
+}
+
+int ZOLQRDCfgBase::GetPrivilege() {
+    return GetSecurityManager()->GetCurrentPerson()->GetPrivilege();
+}
+
+int ZOLQRDCfgBase::DoIModifyIt(const ZOLIQrdCategory_var& category) {
+    const auto* stored = dynamic_cast<const trellis::StoredCategory*>(category.Get());
+    ZOLGYRError refusal;
+    const auto memory = stored ? ConfigurationMemory::Current(refusal) : nullptr;
+    return memory && trellis::OwnsCategory(*memory, stored->Item(), stored->Record()->Row(), refusal);
+}
+
+ZOLIQrdPEPeople_var ZOLQRDCfgBase::WhoAmI() {
+    return GetSecurityManager()->GetCurrentPerson();
+}
+
+ZOLUnicodeString ZOLQRDCfgBase::GetUser() {
+    return WhoAmI()->GetName();
+}
+
+int ZOLQRDCfgBase::WithPubSubEvent() {
+    return ZOLDMInstance::MustSendPubSubEvent();
+}
+
+int ZOLQRDCfgBase::CompareCategoryName(const ZOLIQrdCategory_var* a, const ZOLIQrdCategory_var* b) {
+    return CompareHandles(*a, *b, &ZOLIQrdCategory::GetName);
+}
+
+int ZOLQRDCfgBase::CompareCategoryName(const ZOLCategory* a, const ZOLCategory* b) {
+    return Compare(a->GetName(), b->GetName());
+}
+
+int ZOLQRDCfgBase::CompareCategoryName(ZOLCategory* const* a, ZOLCategory* const* b) {
+    return Compare((*a)->GetName(), (*b)->GetName());
+}
+
+int ZOLQRDCfgBase::CompareOptionName(const ZOLIQrdEffectivity_var* a, const ZOLIQrdEffectivity_var* b) {
+    return CompareHandles(*a, *b, &ZOLIQrdEffectivity::GetOption);
+}
+
+int ZOLQRDCfgBase::CompareOptionName(const ZOLQRDCfgEffectivity* a, const ZOLQRDCfgEffectivity* b) {
+    return Compare(a->GetName(), b->GetName());
+}
+
+int ZOLQRDCfgBase::CompareOptionName(const ZOLOption* a, const ZOLOption* b) {
+    return Compare(a->GetName(), b->GetName());
+}
+
+int ZOLQRDCfgBase::CompareOptionName(ZOLOption* const* a, ZOLOption* const* b) {
+    return Compare((*a)->GetName(), (*b)->GetName());
+}
+
+int ZOLQRDCfgBase::CompareOptionType(const ZOLQRDCfgEffectivity* a, const ZOLQRDCfgEffectivity* b) {
+    return Compare(a->GetCategory(), b->GetCategory());
+}
+
+int ZOLQRDCfgBase::CompareOptionType(const ZOLOption* a, const ZOLOption* b) {
+    return Compare(a->GetCategory(), b->GetCategory());
+}
+
+int ZOLQRDCfgBase::CompareOptionType(ZOLOption* const* a, ZOLOption* const* b) {
+    return Compare((*a)->GetCategory(), (*b)->GetCategory());
+}
+
+int ZOLQRDCfgBase::GetOptionsFromProductDictionary(const ZOLDMInstance& part,
+                                                   ZOLListValZOLQRDCfgEffectivity& options) {
+    options.RemoveAll();
+    ZOLGYRError error;
+    const auto memory = ConfigurationMemory::Current(error);
+    if (!memory || !PartConfiguration(*memory).Find(TextOf(part), error))
+        return error.GetCode();
+    const auto dictionary = memory->FindItem(TextOf(part), ConfigItemRow::Dictionary, error);
+    if (dictionary)
+        trellis::DictionaryEditor(*memory).GetOptions(dictionary, options, error);
+    return error.GetCode();
+}
+
+void ZOLQRDCfgBase::GetOptByName(const ZOLUnicodeString& name, ZOLListValZOLIQrdEffectivity_var& options) {
+    options.RemoveAll();
+    ZOLGYRError unread;
+    const auto memory = ConfigurationMemory::Current(unread);
+    if (!memory)
+        return;
+    const auto found = memory->Store().Find(
+        StoreQuery<EffectivityRow>().Where(&EffectivityRow::optionName, name.Bytes()), unread);
+    for (const auto& option : found)
+        if (const auto item = memory->ItemOfId(option->Row().configItem, unread))
+            options.Append(memory->Handle(option, item));
+}
+
+void ZOLQRDCfgBase::GetCategByName(const ZOLUnicodeString& name, ZOLListValZOLIQrdCategory_var& categories) {
+    categories.RemoveAll();
+    ZOLGYRError unread;
+    const auto memory = ConfigurationMemory::Current(unread);
+    if (!memory)
+        return;
+    const auto found =
+        memory->Store().Find(StoreQuery<CategoryRow>().Where(&CategoryRow::name, name.Bytes()), unread);
+    for (const auto& category : found)
+        if (const auto item = memory->ItemOfId(category->Row().configItem, unread))
+            categories.Append(memory->Handle(category, item));
+}
+
+void ZOLQRDCfgBase::GetAllowedEffectivityType(const ZOLQRDConfigurableObject& object, long& mask) {
+    mask = 0;
+    ZOLGYRError unread;
+    const auto memory = ConfigurationMemory::Current(unread);
+    const auto part =
+        memory ? memory->FindPart(trellis::ObjectIdentifier(object.GetObject()).Text(), unread) : nullptr;
+    if (part)
+        mask = static_cast<long>(part->Row().typeMask);
+}
+
+long ZOLQRDCfgBase::GetAllowedEffectivityType(const ZOLListValZOLDMInstance& parts) {
+    long all = 0;
+    for (const ZOLDMInstance& part : parts) {
+        long mask = 0;
+        GetAllowedEffectivityType(ZOLQRDConfigurableObject(part.GetUUId()), mask);
+        all |= mask;
+    }
+    return all;
+}
+
+int ZOLQRDCfgBase::HasDictionnary(const ZOLDMInstance& part) {
+    return ZOLQRDConfigurableObject(part.GetUUId()).GetDictionary() != NULL_var;
+}
+
+void ZOLQRDCfgBase::GetChildPart(const ZOLDMInstance& part, ZOLListVal<_SEQUENCE_octet>& children) {
+    children.RemoveAll();
+    ZOLListValZOLDMInstance parts;
+    part.GetChildParts(parts);
+    for (const ZOLDMInstance& child : parts)
+        children.Append(child.GetUUId());
+}

@@ -1,0 +1,12 @@
+# Writes the SQL files of MIGRATIONS as one C++ table to OUTPUT, so that the library needs no files at run time.
+set(text "// Made by the build from the files in migrations/.\n#include \"store/Migrations.h\"\n\nnamespace trellis {\n\n")
+string(APPEND text "const std::vector<Migration>& Migrations() {\n    static const std::vector<Migration> migrations{\n")
+foreach(file ${MIGRATIONS})
+    get_filename_component(name ${file} NAME)
+    string(REGEX MATCH "^[0-9]+" number ${name})
+    math(EXPR number "${number}")
+    file(READ ${file} sql)
+    string(APPEND text "        {${number}, R\"sql(${sql})sql\"},\n")
+endforeach()
+string(APPEND text "    };\n    return migrations;\n}\n\n} // namespace trellis\n")
+file(WRITE ${OUTPUT} "${text}")

@@ -1,0 +1,19 @@
+#include "toolkit/TextMeasure.h"
+
+namespace trellis {
+
+TextMeasure::~TextMeasure() = default;
+
+int TextMeasure::GetTextWidth(const ZOLUnicodeString& line) const {
+    return line.GetLengthInChar() * GetCharacterWidth();
+}
+
+int TextMeasure::GetCharacterWidth() const {
+    return 8;
+}
+
+int TextMeasure::GetLineHeight() const {
+    return 16;
+}
+
+} // namespace trellis

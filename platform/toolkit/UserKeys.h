@@ -1,0 +1,11 @@
+#pragma once
+
+#include "toolkit/ZOLUserDriver.h"
+#include "toolkit/ZOLUserResult.h"
+
+namespace trellis {
+
+// What a key does in the dialog that has the cursor. NotThere when the key means nothing there.
+ZOLUserResult PressKey(ZOLDialog& dialog, ZOLUserKey key);
+
+} // namespace trellis

@@ -1,0 +1,3 @@
+#include "toolkit/ZOLGraphContextNotification.h"
+
+ZOLGraphContextNotification::~ZOLGraphContextNotification() = default;

@@ -1,0 +1,3 @@
+#include "toolkit/ZOLGraphSelectNotification.h"
+
+ZOLGraphSelectNotification::~ZOLGraphSelectNotification() = default;

@@ -1,0 +1,3 @@
+#include "toolkit/ZOLNodeContextNotification.h"
+
+ZOLNodeContextNotification::~ZOLNodeContextNotification() = default;

@@ -1,0 +1,3 @@
+#include "toolkit/ZOLNodeExtSelectNotification.h"
+
+ZOLNodeExtSelectNotification::~ZOLNodeExtSelectNotification() = default;

@@ -1,0 +1,3 @@
+#include "toolkit/ZOLNodeSelectNotification.h"
+
+ZOLNodeSelectNotification::~ZOLNodeSelectNotification() = default;
