@@ -1,5 +1,6 @@
-// GetConfigurableObject on 1,000 configurable parts, cold and warm, against 1,000 selects of the same rows that are
-// prepared once through SQLite's C interface. Both sides read the same file. The last lines give the ratios.
+// GetConfigurableObject on 1,000 configurable parts, cold and warm, against 1,000 selects of the same rows
+// that are prepared once through SQLite's C interface. Both sides read the same file. The last lines give the
+// ratios.
 #include "model/DatabaseSession.h"
 #include "model/PartQuery.h"
 #include "model/StructureImport.h"

@@ -12,7 +12,8 @@ public:
     // The dictionary that holds it.
     virtual ZOLVar<ZOLIQrdConfigItem> GetConfigItem() const = 0;
     virtual ZOLUnicodeString GetName() const = 0;
-    // 60400 (name) when it is empty or longer than 40 characters. The options' own text of the category stays.
+    // 60400 (name) when it is empty or longer than 40 characters. The options' own text of the category
+    // stays.
     virtual void SetName(const ZOLUnicodeString& name, ZOLGYRError& error) = 0;
     // May hold line feeds.
     virtual ZOLUnicodeString GetDescription() const = 0;
@@ -28,8 +29,8 @@ public:
     // 1: at least one of its options must be chosen.
     virtual int GetMandatory() const = 0;
     virtual void SetMandatory(int mandatory, ZOLGYRError& error) = 0;
-    // Options chosen by default, in the order given, duplicates kept. Whether several may stand in an exclusive
-    // category is not judged here. An option of another category, and a null handle, are left out.
+    // Options chosen by default, in the order given, duplicates kept. Whether several may stand in an
+    // exclusive category is not judged here. An option of another category, and a null handle, are left out.
     virtual void GetDefaultOptions(ZOLListValZOLIQrdEffectivity_var& options) const = 0;
     virtual void SetDefaultOptions(const ZOLListValZOLIQrdEffectivity_var& options, ZOLGYRError& error) = 0;
     // A number kept beside the default list.

@@ -27,25 +27,26 @@ struct UnsavedChange {
 
 // ZOLQRDCfgManager: makes parts configurable, keeps dictionaries, and saves all of it.
 //
-// Memory is the truth between saves: every change is seen at once by all, and the next Save of anybody writes it. Names
-// are free as soon as they are removed in memory. Only what says so saves. Operations set a code on failure, never clear
-// the carrier, and leave memory as it was when they fail. A null handle gives an empty list, a null result, or nothing.
-// Lists are emptied first and come in order of creation.
+// Memory is the truth between saves: every change is seen at once by all, and the next Save of anybody writes
+// it. Names are free as soon as they are removed in memory. Only what says so saves. Operations set a code on
+// failure, never clear the carrier, and leave memory as it was when they fail. A null handle gives an empty
+// list, a null result, or nothing. Lists are emptied first and come in order of creation.
 //
-// Where a part is named by its identifier, 20904 (identifier) tells that no part has it. Store failures are 20901 to
-// 20904. Refused rights are the numbers of RightTable with the user's name; a privilege overrides where that table says
-// so.
+// Where a part is named by its identifier, 20904 (identifier) tells that no part has it. Store failures are
+// 20901 to 20904. Refused rights are the numbers of RightTable with the user's name; a privilege overrides
+// where that table says so.
 class TRELLIS_API ZOLQRDCfgManager {
 public:
-    // The manager of the open database, to be fetched anew in each operation; null and 60201 while none is open.
+    // The manager of the open database, to be fetched anew in each operation; null and 60201 while none is
+    // open.
     static ZOLQRDCfgManager* CurrentCfgManager(ZOLGYRError& error);
     ~ZOLQRDCfgManager();
     ZOLQRDCfgManager(const ZOLQRDCfgManager&) = delete;
     ZOLQRDCfgManager& operator=(const ZOLQRDCfgManager&) = delete;
 
-    // Writes every unsaved change of the service in one transaction. Runs also when a code stands, and then leaves that
-    // code. A refusal writes nothing, leaves memory changed, and can be repeated: 20902 (object, user) when another
-    // changed it, 20904 (object) when another removed it, 20903, 20901.
+    // Writes every unsaved change of the service in one transaction. Runs also when a code stands, and then
+    // leaves that code. A refusal writes nothing, leaves memory changed, and can be repeated: 20902 (object,
+    // user) when another changed it, 20904 (object) when another removed it, 20903, 20901.
     void Save(ZOLGYRError& error);
     // What Save would write, in the order in which it would.
     void GetUnsavedChanges(std::vector<trellis::UnsavedChange>& changes) const;
@@ -58,26 +59,26 @@ public:
                                ZOLGYRError& error) const;
     void GetConfigurableObject(const _SEQUENCE_octet& part, ZOLQRDConfigurableObject& object,
                                ZOLGYRError& error) const;
-    // Makes a part configurable; one that is so already stays as it is. Right "Set". A dictionary that the part had
-    // before is reached again.
+    // Makes a part configurable; one that is so already stays as it is. Right "Set". A dictionary that the
+    // part had before is reached again.
     void SetConfigurable(const ZOLDMInstance& part, ZOLGYRError& error);
-    // Sets the mask of allowed effectivity types: 2 range, 8 option, 16 modification, 32 date, 64 personal. 20265. Right
-    // "Set".
+    // Sets the mask of allowed effectivity types: 2 range, 8 option, 16 modification, 32 date, 64 personal.
+    // 20265. Right "Set".
     void ModifyEffTypeForPart(const ZOLDMInstance& part, long mask, ZOLGYRError& error);
 
-    // Makes the empty dictionary of a configurable part; one that is there stays. 20265. No right is asked: panels make
-    // it by opening.
+    // Makes the empty dictionary of a configurable part; one that is there stays. 20265. No right is asked:
+    // panels make it by opening.
     void AddDictionary(const ZOLDMInstance& part, ZOLGYRError& error);
     void AddDictionary(const _SEQUENCE_octet& part, ZOLGYRError& error);
     // The dictionary of a configurable part, or null.
     void GetDictionary(const _SEQUENCE_octet& part, ZOLIQrdConfigItem_var& dictionary) const;
     // The one that all parts share; null only when the store cannot be read.
     ZOLIQrdConfigItem_var GetCorporateDictionary() const;
-    // Removes a part's dictionary with all that is in it. Effectivities on links keep the names of its options. 20265;
-    // 20904 when there is none. Right "DeleteOptionDictionary".
+    // Removes a part's dictionary with all that is in it. Effectivities on links keep the names of its
+    // options. 20265; 20904 when there is none. Right "DeleteOptionDictionary".
     void DeleteDictionary(const ZOLDMInstance& part, ZOLGYRError& error);
-    // Forgets what memory holds of a dictionary, unsaved changes too; the next access reads anew. Handles stay alive and
-    // equal those read later. The number is 0.
+    // Forgets what memory holds of a dictionary, unsaved changes too; the next access reads anew. Handles
+    // stay alive and equal those read later. The number is 0.
     void UnloadDictionary(const ZOLIQrdConfigItem_var& dictionary, int);
 
     void GetCategoriesFromDictionary(const ZOLIQrdConfigItem_var& dictionary,
@@ -86,17 +87,17 @@ public:
     void GetOptionsFromDictionary(const ZOLIQrdConfigItem_var& dictionary,
                                   ZOLListValZOLQRDCfgEffectivity& options) const;
 
-    // Names are 1 to 40 characters, else 60400 (name). Adding and removing need the right "ManageOptionDictionary" at the
-    // part's site, in the corporate dictionary "ManageOptionDictionaryCorp"; with options, and removing, also the
-    // ownership of the category that DoIModifyIt asks for (60402: category, owner).
-    // A new category belongs to the current user and organization. 50074 when the name is taken: then its holder comes
-    // back, and the caller may clear the code and go on with it.
+    // Names are 1 to 40 characters, else 60400 (name). Adding and removing need the right
+    // "ManageOptionDictionary" at the part's site, in the corporate dictionary "ManageOptionDictionaryCorp";
+    // with options, and removing, also the ownership of the category that DoIModifyIt asks for (60402:
+    // category, owner). A new category belongs to the current user and organization. 50074 when the name is
+    // taken: then its holder comes back, and the caller may clear the code and go on with it.
     ZOLIQrdCategory_var AddCategoryToDictionary(const ZOLIQrdConfigItem_var& dictionary,
                                                 const ZOLUnicodeString& name,
                                                 const ZOLUnicodeString& description, int exclusivity,
                                                 int mandatory, ZOLGYRError& error);
-    // Null and 50073 when the name is taken anywhere in the dictionary; null and 60401 (category) when the category is
-    // not of this dictionary.
+    // Null and 50073 when the name is taken anywhere in the dictionary; null and 60401 (category) when the
+    // category is not of this dictionary.
     ZOLIQrdEffectivity_var AddOptionToDictionary(const ZOLIQrdConfigItem_var& dictionary,
                                                  const ZOLIQrdCategory_var& category,
                                                  const ZOLUnicodeString& name,

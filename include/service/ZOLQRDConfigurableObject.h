@@ -2,8 +2,9 @@
 
 #include "service/ZOLIQrdConfigItem.h"
 
-// ZOLQRDConfigurableObject: a configurable part, as ZOLQRDCfgManager::GetConfigurableObject fills it. A value; it
-// holds the part's identifier and answers from the present state, so a dictionary that is added later is seen.
+// ZOLQRDConfigurableObject: a configurable part, as ZOLQRDCfgManager::GetConfigurableObject fills it. A
+// value; it holds the part's identifier and answers from the present state, so a dictionary that is added
+// later is seen.
 class TRELLIS_API ZOLQRDConfigurableObject {
 public:
     // Stands for nothing: identifier of length 0, null handles.

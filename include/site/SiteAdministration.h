@@ -32,16 +32,17 @@ struct AdministratorValueEntry {
     ZOLUnicodeString value;
 };
 
-// SiteAdministration: sets up who works with a database and what each may do, and the administrator's values. All
-// is unsaved until Save.
+// SiteAdministration: sets up who works with a database and what each may do, and the administrator's values.
+// All is unsaved until Save.
 //
-// Once a person of the database has privilege 10 or more, only such a person may change anything here; before,
-// everybody may. Every change answers true, or false with
-//   60502  administration is refused (user)        60503  no such person, role, organization or site (kind, name)
+// Once a person of the database has privilege 10 or more, only such a person may change anything here;
+// before, everybody may. Every change answers true, or false with
+//   60502  administration is refused (user)        60503  no such person, role, organization or site (kind,
+// name)
 //   60504  it exists already (kind, name)          60505  no such function (name)
 //   60506  a name is empty, or longer than 80 characters (kind)
-//   60507  no database is open                     60508  a person stands for a role that is to go (role, person)
-// and then has changed nothing.
+//   60507  no database is open                     60508  a person stands for a role that is to go (role,
+// person) and then has changed nothing.
 class TRELLIS_API SiteAdministration {
 public:
     static bool AddSite(const ZOLUnicodeString& name, ZOLGYRError& error);

@@ -6,9 +6,9 @@
 
 #include <cstdint>
 
-// ZOLIQrdPEPeople: a person or an organization, whoever can hold a modification. QueryInterface tells which. A
-// snapshot of what the database said when it was fetched; fetch it anew to see a change. Two mean the same when
-// they stand for the same stored object, or, where nothing is stored, for the same name.
+// ZOLIQrdPEPeople: a person or an organization, whoever can hold a modification. QueryInterface tells which.
+// A snapshot of what the database said when it was fetched; fetch it anew to see a change. Two mean the same
+// when they stand for the same stored object, or, where nothing is stored, for the same name.
 class TRELLIS_API ZOLIQrdPEPeople : public ZOLBaseUnknown {
     ZOL_META_OBJECT(ZOLIQrdPEPeople, ZOLBaseUnknown)
 public:

@@ -14,8 +14,8 @@ public:
     const ZOLUnicodeString& GetLastName() const { return _lastName; }
     // Never null; its name is empty for a person without a role.
     const ZOLIQrdPERole_var& GetRole() const { return _role; }
-    // 0 for ordinary people. From 2 and 10 on some refused rights do not bind (RightTable says which); from 10 on
-    // objects of other owners may be changed and the site may be administrated.
+    // 0 for ordinary people. From 2 and 10 on some refused rights do not bind (RightTable says which); from
+    // 10 on objects of other owners may be changed and the site may be administrated.
     int GetPrivilege() const { return _privilege; }
 
 private:

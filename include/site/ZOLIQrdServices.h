@@ -11,8 +11,8 @@ public:
     // The group of all values of this system.
     static constexpr const char* Group = "QRDAdmin";
 
-    // The value of that name in a group; empty when it is not set, or while no database is open. Values that are
-    // set but not saved yet are seen.
+    // The value of that name in a group; empty when it is not set, or while no database is open. Values that
+    // are set but not saved yet are seen.
     ZOLUnicodeString GetValue(const ZOLUnicodeString& name, const ZOLUnicodeString& group) const;
 };
 

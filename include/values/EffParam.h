@@ -36,8 +36,8 @@ typedef struct EffParam {
     EffParamMilestone endMilestone;
 } EffParam;
 
-/* Frees all texts of a record and leaves it empty; not the record itself. A null pointer is legal. Whoever asked
-   for the record calls it. All memory in it comes from malloc. */
+/* Frees all texts of a record and leaves it empty; not the record itself. A null pointer is legal. Whoever
+   asked for the record calls it. All memory in it comes from malloc. */
 __attribute__((visibility("default"))) void EffParamFree(EffParam* parameter);
 
 #ifdef __cplusplus

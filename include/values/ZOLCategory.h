@@ -4,8 +4,8 @@
 #include "values/ZOLListPtr.h"
 #include "values/ZOLUnicodeString.h"
 
-// ZOLCategory: a category of a dictionary as lists and the selection graph hold it: a copy that outlives an edit
-// of the dictionary. Two are equal by name alone: copies of one category may differ in all else.
+// ZOLCategory: a category of a dictionary as lists and the selection graph hold it: a copy that outlives an
+// edit of the dictionary. Two are equal by name alone: copies of one category may differ in all else.
 class TRELLIS_API ZOLCategory {
 public:
     // exclusivity: at most one of its options may be chosen; mandatory: at least one must be.

@@ -4,9 +4,9 @@
 #include "values/ZOLListPtr.h"
 #include "values/ZOLUnicodeString.h"
 
-// ZOLOption: an option of a dictionary as lists and the selection graph hold it: a copy that outlives an edit of
-// the dictionary. Two are equal by name and category alone, so that a list finds its selection again after an
-// edit or a reload.
+// ZOLOption: an option of a dictionary as lists and the selection graph hold it: a copy that outlives an edit
+// of the dictionary. Two are equal by name and category alone, so that a list finds its selection again after
+// an edit or a reload.
 class TRELLIS_API ZOLOption {
 public:
     // isNot: meant as rejected; isRuleDefined: that state came from a rule.

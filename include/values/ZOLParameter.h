@@ -7,13 +7,14 @@
 class ZOLCategory;
 class ZOLOption;
 
-// ZOLParameter: the state of one option in a selection: chosen, or rejected. Two are equal by category, option
-// and sign; source, exclusivity and descriptions do not count.
+// ZOLParameter: the state of one option in a selection: chosen, or rejected. Two are equal by category,
+// option and sign; source, exclusivity and descriptions do not count.
 //
 // A parameter as a reference in the text of a rule:
 //     "CATEGORY"."OPTION"     or, without a category,     "OPTION"
-// A quotation mark inside a name is written twice; every other character stands for itself. So any name is legal,
-// keywords and line feeds included, and the word `not` may stand right before a reference, as in not"A"."B".
+// A quotation mark inside a name is written twice; every other character stands for itself. So any name is
+// legal, keywords and line feeds included, and the word `not` may stand right before a reference, as in
+// not"A"."B".
 class TRELLIS_API ZOLParameter {
 public:
     // Where a parameter comes from.
@@ -23,7 +24,8 @@ public:
     ZOLParameter(const ZOLUnicodeString& category, const ZOLUnicodeString& option, const int isNot);
     ZOLParameter(const ZOLUnicodeString& category, const ZOLUnicodeString& categoryDescription,
                  const ZOLUnicodeString& option, const ZOLUnicodeString& optionDescription, const int isNot);
-    // Name, description and exclusivity of the category are those of `category`, whatever the option says of it.
+    // Name, description and exclusivity of the category are those of `category`, whatever the option says of
+    // it.
     ZOLParameter(const ZOLCategory& category, const ZOLOption& option);
 
     const ZOLUnicodeString& GetCategory() const { return _category; }
@@ -39,15 +41,16 @@ public:
     int GetCategoryExclusivity() const { return _categoryExclusivity; }
     void SetCategoryExclusivity(int exclusivity) { _categoryExclusivity = exclusivity; }
 
-    // The reference as the text of a rule writes it; with `withSign` non-zero a rejected one is led by "not ".
+    // The reference as the text of a rule writes it; with `withSign` non-zero a rejected one is led by "not
+    // ".
     ZOLUnicodeString GetParameterString(int withSign = 0) const;
     // The same, put into `text`.
     void GetParameterString(ZOLUnicodeString& text, int withSign) const {
         text = GetParameterString(withSign);
     }
-    // Reads the reference, without a sign, that begins at the octet `position` of a text, counted from 0, into a
-    // parameter that is chosen, and moves the position behind it. 0, with nothing changed, when no reference
-    // begins there or it is not closed.
+    // Reads the reference, without a sign, that begins at the octet `position` of a text, counted from 0,
+    // into a parameter that is chosen, and moves the position behind it. 0, with nothing changed, when no
+    // reference begins there or it is not closed.
     static int ReadParameterString(const ZOLUnicodeString& text, int& position, ZOLParameter& parameter);
 
     friend bool operator==(const ZOLParameter& a, const ZOLParameter& b) {
@@ -67,6 +70,7 @@ private:
 using ZOLListPtrZOLParameter = ZOLListPtr<ZOLParameter>;
 
 // 1 when a parameter equal to the given one stands in the list from position `from` to position `to`, counted
-// from 1, both included; a `to` of -1 means the end. Positions outside the list are no breach: they hold nothing.
+// from 1, both included; a `to` of -1 means the end. Positions outside the list are no breach: they hold
+// nothing.
 TRELLIS_API int ParameterInList(const ZOLParameter* parameter, const ZOLListPtrZOLParameter& list, int from,
                                 int to);

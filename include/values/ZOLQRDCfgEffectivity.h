@@ -12,8 +12,8 @@ template <class T>
 class ZOLVar;
 class ZOLIQrdEffectivity;
 
-// ZOLQRDCfgEffectivity: one effectivity term: for which option, package or modification, or between which bounds,
-// a link is valid. A value; copies share nothing.
+// ZOLQRDCfgEffectivity: one effectivity term: for which option, package or modification, or between which
+// bounds, a link is valid. A value; copies share nothing.
 //
 // Two terms are equal
 //   option kinds         when the option's name is the same, whatever limit, category or kind of suffix
@@ -29,8 +29,8 @@ public:
     ZOLQRDCfgEffectivity() = default;
     // An option term for a selection, of type "option_undef"; the category may be empty.
     ZOLQRDCfgEffectivity(const ZOLUnicodeString& option, const ZOLUnicodeString& category);
-    // value: the name of the option or modification; of a pack kind its one option, if not empty. A last of 0 or
-    // below and a day without value are open.
+    // value: the name of the option or modification; of a pack kind its one option, if not empty. A last of 0
+    // or below and a day without value are open.
     ZOLQRDCfgEffectivity(const ZOLUnicodeString& type, const ZOLUnicodeString& value, int first, int last,
                          const ZOLQRDTime& start, const ZOLQRDTime& end);
     // used: the used mark.
@@ -94,7 +94,8 @@ public:
     //   package                a sequence of texts
     //   "date"                 a sequence of two times, 0 when open (1970-01-01 itself is 1)
     //   "range"                a sequence of two numbers
-    // An option or a package with dates, or else with numbers, is a sequence of its own value and the two limits.
+    // An option or a package with dates, or else with numbers, is a sequence of its own value and the two
+    // limits.
     void GetValues(CORBAAny& values) const;
 
     friend TRELLIS_API bool operator==(const ZOLQRDCfgEffectivity& a, const ZOLQRDCfgEffectivity& b);

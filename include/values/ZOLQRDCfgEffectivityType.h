@@ -3,9 +3,9 @@
 #include "values/TrellisApi.h"
 #include "values/ZOLUnicodeString.h"
 
-// ZOLQRDCfgEffectivityType: the words for the kinds of an effectivity term. They are compared exactly, in lower
-// case. "option_undef" and "option" say the same (an option without a limit), as do "pack_undef" and "pack":
-// readers accept both. A word outside the table is of no kind.
+// ZOLQRDCfgEffectivityType: the words for the kinds of an effectivity term. They are compared exactly, in
+// lower case. "option_undef" and "option" say the same (an option without a limit), as do "pack_undef" and
+// "pack": readers accept both. A word outside the table is of no kind.
 class TRELLIS_API ZOLQRDCfgEffectivityType {
 public:
     static constexpr const char* Date = "date";

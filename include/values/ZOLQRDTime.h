@@ -7,16 +7,16 @@
 class ZOLGYRError;
 class ZOLUnicodeString;
 
-// ZOLQRDTime: a calendar day, or no value, which stands for an open bound. A day is its midnight in UTC; the time
-// of day of what it is made from is dropped.
-// Without a value it equals only another one without; it is neither before nor after anything, moves nowhere and
-// has an empty text. Callers ask IsValuated first.
+// ZOLQRDTime: a calendar day, or no value, which stands for an open bound. A day is its midnight in UTC; the
+// time of day of what it is made from is dropped.
+// Without a value it equals only another one without; it is neither before nor after anything, moves nowhere
+// and has an empty text. Callers ask IsValuated first.
 class TRELLIS_API ZOLQRDTime {
 public:
     ZOLQRDTime() = default;
     ZOLQRDTime(const ZOLTime& time);
-    // Reads YYYY-MM-DD, with blanks at both ends allowed. 20911 with the text when it is no such day; the value is
-    // then absent. A code that stands in the carrier is not cleared.
+    // Reads YYYY-MM-DD, with blanks at both ends allowed. 20911 with the text when it is no such day; the
+    // value is then absent. A code that stands in the carrier is not cleared.
     ZOLQRDTime(const ZOLUnicodeString& text, ZOLGYRError& error);
 
     int IsValuated() const { return _valuated ? 1 : 0; }

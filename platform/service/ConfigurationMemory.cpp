@@ -10,8 +10,8 @@ namespace trellis {
 namespace {
 
 constexpr int NoDatabase = 60201;
-// After so many parts were asked for one by one, all that are configurable are read at once: whoever lists a structure
-// asks for many.
+// After so many parts were asked for one by one, all that are configurable are read at once: whoever lists a
+// structure asks for many.
 constexpr int MissesBeforeReadingAll = 8;
 
 std::shared_ptr<ConfigurationMemory> CurrentMemory;

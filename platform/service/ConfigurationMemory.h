@@ -11,9 +11,9 @@
 
 namespace trellis {
 
-// ConfigurationMemory: what the service holds in memory of the open database: which parts are configurable, their
-// config items, and the content of those that were asked for. Handles keep a weak hold of it, so that one that outlives
-// its database answers and changes nothing.
+// ConfigurationMemory: what the service holds in memory of the open database: which parts are configurable,
+// their config items, and the content of those that were asked for. Handles keep a weak hold of it, so that
+// one that outlives its database answers and changes nothing.
 class ConfigurationMemory : public std::enable_shared_from_this<ConfigurationMemory> {
 public:
     // That of the open database; null and a code while none is open or when it cannot be read.
@@ -42,8 +42,8 @@ public:
     // Forgets the content of an item, with its unsaved changes.
     void Unload(const RecordOf<ConfigItemRow>& item);
 
-    // Changes of records go through here, each between Begin and End, so that what others did to the store in between is
-    // noticed, and what the service did itself costs nothing.
+    // Changes of records go through here, each between Begin and End, so that what others did to the store in
+    // between is noticed, and what the service did itself costs nothing.
     void Begin();
     void End() { _known = _workspace->ChangeCount(); }
 

@@ -4,7 +4,8 @@
 
 namespace trellis {
 
-// DictionaryEditor: reads a dictionary and adds to it and takes from it, with its rules of names, rights and owners.
+// DictionaryEditor: reads a dictionary and adds to it and takes from it, with its rules of names, rights and
+// owners.
 class DictionaryEditor {
 public:
     explicit DictionaryEditor(ConfigurationMemory& memory) : _memory(memory) {}
@@ -22,7 +23,8 @@ public:
     void RemoveOption(const ZOLIQrdEffectivity_var& option, ZOLGYRError& error);
 
 private:
-    // The content of a dictionary that stands; null and 60301 for a removed one, or the number of a failed read.
+    // The content of a dictionary that stands; null and 60301 for a removed one, or the number of a failed
+    // read.
     ItemContent* Content(const RecordOf<ConfigItemRow>& dictionary, ZOLGYRError& error);
 
     ConfigurationMemory& _memory;

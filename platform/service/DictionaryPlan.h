@@ -9,13 +9,14 @@
 
 namespace trellis {
 
-// DictionaryPlan: what the records of a file come to on a dictionary. It is checked as a whole before anything is
-// changed, and every fault is noted with its line.
+// DictionaryPlan: what the records of a file come to on a dictionary. It is checked as a whole before
+// anything is changed, and every fault is noted with its line.
 class DictionaryPlan {
 public:
     explicit DictionaryPlan(DictionaryFile& file);
 
-    // Checks against what the dictionary holds; a null handle is an empty dictionary. True when no problem stands.
+    // Checks against what the dictionary holds; a null handle is an empty dictionary. True when no problem
+    // stands.
     bool Fits(ZOLQRDCfgManager& manager, const ZOLIQrdConfigItem_var& dictionary);
     // Carries it out, unsaved, and counts. Stops at the first code.
     void Apply(ZOLQRDCfgManager& manager, const ZOLIQrdConfigItem_var& dictionary,

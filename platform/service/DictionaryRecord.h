@@ -42,8 +42,8 @@ struct DictionaryFile {
     void Note(int line, int number, const std::vector<std::string>& parameters = {});
 };
 
-// The two forms. Each reads the whole text, which is valid UTF-8 without a byte order mark, and notes every row that it
-// cannot make a record of.
+// The two forms. Each reads the whole text, which is valid UTF-8 without a byte order mark, and notes every
+// row that it cannot make a record of.
 DictionaryFile ReadDictionaryCsv(std::string_view text);
 DictionaryFile ReadDictionaryJson(std::string_view text);
 

@@ -4,14 +4,14 @@
 
 namespace trellis {
 
-// Who may change what in a dictionary. Each answers true, or sets the refusal: a number of RightTable with the user's
-// name, or 60402 with category and owner.
+// Who may change what in a dictionary. Each answers true, or sets the refusal: a number of RightTable with
+// the user's name, or 60402 with category and owner.
 
 // Add to it or take from it.
 bool MayChangeDictionary(ConfigurationMemory& memory, const RecordOf<ConfigItemRow>& dictionary,
                          ZOLGYRError& error);
-// Change a category, or what is in it. Beside the owners, whoever is given the corporate dictionary by name may: a rename
-// there reaches the dictionaries of all parts.
+// Change a category, or what is in it. Beside the owners, whoever is given the corporate dictionary by name
+// may: a rename there reaches the dictionaries of all parts.
 bool MayChangeCategory(ConfigurationMemory& memory, const RecordOf<ConfigItemRow>& dictionary,
                        const CategoryRow& category, ZOLGYRError& error);
 // Change an option, by its category. Effectivities on links are guarded by the operations that write them.

@@ -8,11 +8,12 @@
 
 namespace trellis {
 
-// ItemContent: what memory holds of one dictionary or config item: categories, options or effectivities, and the rows
-// that hang on them. It is read by one query per table, whatever its size, and then answers from memory.
+// ItemContent: what memory holds of one dictionary or config item: categories, options or effectivities, and
+// the rows that hang on them. It is read by one query per table, whatever its size, and then answers from
+// memory.
 //
-// Its lists keep records that were removed, since a discard may bring them back; the answers leave them out. Names are
-// found by an index, which is made anew after anything that the service did not do itself.
+// Its lists keep records that were removed, since a discard may bring them back; the answers leave them out.
+// Names are found by an index, which is made anew after anything that the service did not do itself.
 class ItemContent {
 public:
     // Reads the content of an item; null and a code on a failure.

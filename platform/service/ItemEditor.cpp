@@ -19,8 +19,8 @@ void RemoveAll(ConfigurationMemory& memory, const Records<Row>& records, ZOLGYRE
         memory.Store().Remove(*record, error);
 }
 
-// The places of effectivities on links. Asked for before anything is removed, since the store may fail. Options of a
-// dictionary lie on no link.
+// The places of effectivities on links. Asked for before anything is removed, since the store may fail.
+// Options of a dictionary lie on no link.
 bool FindLinks(ConfigurationMemory& memory, const ItemContent& content,
                const Records<EffectivityRow>& effectivities, Records<LinkEffectivityRow>& links,
                ZOLGYRError& error) {

@@ -9,8 +9,8 @@ class PartConfiguration {
 public:
     explicit PartConfiguration(ConfigurationMemory& memory) : _memory(memory) {}
 
-    // The record of a configurable part. Null with 20265 for a part that is not configurable, with 20904 (identifier) when
-    // no part has the identifier.
+    // The record of a configurable part. Null with 20265 for a part that is not configurable, with 20904
+    // (identifier) when no part has the identifier.
     RecordOf<ConfigurablePartRow> Find(const std::string& uuid, ZOLGYRError& error);
     // Null without a code when the part is not configurable or has no such item.
     RecordOf<ConfigItemRow> FindItem(const std::string& uuid, const char* status);

@@ -8,8 +8,8 @@
 
 namespace trellis {
 
-// StoredHandle: what the handles of the service share: the record they stand for and a weak hold of the memory it lives
-// in, which ends when the database is closed.
+// StoredHandle: what the handles of the service share: the record they stand for and a weak hold of the
+// memory it lives in, which ends when the database is closed.
 template <class Interface, class RowType>
 class StoredHandle : public Interface {
 public:

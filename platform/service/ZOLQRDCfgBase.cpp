@@ -8,8 +8,6 @@
 #include "service/StoredCategory.h"
 #include "site/ZOLIQrdSCManager.h"
 
-#include <compare>
-
 using trellis::CategoryRow;
 using trellis::ConfigItemRow;
 using trellis::ConfigurationMemory;

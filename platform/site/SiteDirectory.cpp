@@ -42,7 +42,8 @@ const SiteDirectory& SiteDirectory::Current() {
     ZOLGYRError error;
     fresh.Read(error);
     const bool isRead = error.GetCode() == 0;
-    // A store that cannot be read leaves what was known, and of a database that was never read nobody has any right.
+    // A store that cannot be read leaves what was known, and of a database that was never read nobody has any
+    // right.
     if (isRead || !isSame) {
         directory = isRead ? std::move(fresh) : SiteDirectory();
         directory._isUnread = !isRead;

@@ -12,9 +12,10 @@
 
 namespace trellis {
 
-// SiteDirectory: people and rights of the open database as they stood when they were last read, unsaved changes
-// included. Rights are asked in every operation, so the answers come from memory; it is read anew when it is
-// forgotten, when another database is open, and after some seconds, since others may have changed it.
+// SiteDirectory: people and rights of the open database as they stood when they were last read, unsaved
+// changes included. Rights are asked in every operation, so the answers come from memory; it is read anew
+// when it is forgotten, when another database is open, and after some seconds, since others may have changed
+// it.
 class SiteDirectory {
 public:
     // The present directory; without a database it is empty.

@@ -33,7 +33,7 @@ public:
     bool Delete(std::int64_t id, std::int64_t version);
     // Reads a row into the cells; false when there is none.
     bool ReadCells(std::int64_t id);
-    // Calls `each` after every row that the conditions let through, in order of ids.
+    // Calls `each` after every row that the conditions let through, by id; `each` may not ask this table.
     void SelectCells(const std::vector<StoreCondition>& conditions, const std::function<void()>& each);
     // Whether the unique key holds for the row in the cells, among all rows as they stand now.
     bool KeyHolds(const UniqueKey& key);

@@ -73,7 +73,7 @@ TEST_F(ScriptRunnerTest, AnsweredQuestionsAndExpectedMessagesAreFine) {
     EXPECT_EQ(Play("type NameEd \"Cargo \\\"bike\\\"\"\nanswer 1\nok\nexpect 50103 50116\ndescribe\n"),
               ExitCode::Fine)
         << _output.str();
-    EXPECT_TRUE(Wrote("Cargo \"bike\"")) << _output.str();
+    EXPECT_TRUE(Wrote("row \"Cargo \\\"bike\\\"\"")) << _output.str();
     EXPECT_EQ(Play("answer 2\nok\nlines List \"Cargo \\\"bike\\\"\"\nexpect nothing\n"), ExitCode::Fine)
         << _output.str();
 }

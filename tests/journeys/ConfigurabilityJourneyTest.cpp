@@ -54,6 +54,9 @@ protected:
                      number + "')");
     }
     void AddPerson(const std::string& name, const std::string& privilege) const {
+        if (Stored().Count("role") == 0) {
+            EXPECT_EQ(Trellis({"db", "role", "engineer"}).exitCode, 0);
+        }
         EXPECT_EQ(Trellis({"db", "person", name, "--role", "engineer", "--privilege", privilege}).exitCode,
                   0);
     }

@@ -187,7 +187,8 @@ TEST_F(DictionaryImportTest, ARefusedRightChangesNothing) {
     EXPECT_FALSE(Object("BIKE").GetDictionary());
 }
 
-// Any damage of a good file is either read or refused with a line of the file; it never crashes or leaves halves.
+// Any damage of a good file is either read or refused with a line of the file; it never crashes or leaves
+// halves.
 TEST_F(DictionaryImportTest, DamagedFilesAreReadOrRefusedWhole) {
     EXPECT_TRUE(rc::check([this] {
         const bool isJson = *rc::gen::arbitrary<bool>();

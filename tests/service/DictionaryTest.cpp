@@ -324,8 +324,8 @@ TEST_F(Dictionary, ComparisonsSortHandlesAndCopiesAlike) {
     EXPECT_EQ(copies[1], &b);
 }
 
-// Random work on a dictionary against a model of names, with a save, an unload or a discard now and then; in the end
-// memory, model and a fresh process agree.
+// Random work on a dictionary against a model of names, with a save, an unload or a discard now and then; in
+// the end memory, model and a fresh process agree.
 TEST_F(Dictionary, MemoryAndStoreAgreeAfterAnyWork) {
     ASSERT_EQ(Save(), 0);
     EXPECT_TRUE(rc::check([this] {

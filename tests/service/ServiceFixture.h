@@ -100,7 +100,8 @@ protected:
         error.GetLongMsg(message);
         return message.Bytes();
     }
-    // A person with a role of its own, which is refused the functions. Nobody can be added after one of privilege 10.
+    // A person with a role of its own, which is refused the functions. Nobody can be added after one of
+    // privilege 10.
     void Person(const char* name, int privilege, std::initializer_list<const char*> refused = {}) {
         const std::string role = std::string(name) + "-role";
         SiteAdministration::AddRole(role, "", error);

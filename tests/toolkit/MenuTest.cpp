@@ -67,6 +67,7 @@ TEST_F(MenuTest, VisibilitySwitchesTheMenuOffAndDoesNotTellThatItIsOpen) {
     Item("Open");
     EXPECT_EQ(menu->GetVisibility(), ZOLShown);
     menu->SetVisibility(ZOLHidden);
+    EXPECT_EQ(menu->UserOpen(), ZOLUserResult::Hidden);
     EXPECT_THROW(ZOLUserDriver::Menu(list, "Open"), ZOLUserDriver::Refused);
     EXPECT_TRUE(panel->heard.empty());
     menu->SetVisibility(ZOLShown);

@@ -73,6 +73,16 @@ TEST_F(WidgetRulesTest, AWidgetThatIsGreyedHiddenOrInSuchAHolderSendsNothingAndS
     EXPECT_EQ(ReasonOf([&] { ZOLUserDriver::Press(nullptr); }), "cannot press a dialog: there is none");
 }
 
+TEST_F(WidgetRulesTest, AGreyedOrHiddenPanelLeavesTheWindowsThatItOwnsAsTheyAre) {
+    ListeningPanel* owned = OpenPanel("Owned", frame);
+    auto* button = new ZOLDlgPushButton(owned, "Button");
+    owned->Listen(button, button->GetPushBActivateNotification());
+    frame->SetSensitivity(ZOLGreyed);
+    panel->SetVisibility(ZOLHidden);
+    ZOLUserDriver::Press(button);
+    EXPECT_EQ(owned->heard.size(), 1u);
+}
+
 TEST_F(WidgetRulesTest, OfTheRadioButtonsOfOneFrameAtMostOneIsOn) {
     auto* first = new ZOLDlgRadioButton(frame, "First");
     auto* second = new ZOLDlgRadioButton(frame, "Second");
