@@ -1,8 +1,9 @@
 #include "model/ObjectIdentifier.h"
 
-#include "model/Sha256.h"
+#include <openssl/sha.h>
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 
 namespace trellis {
@@ -16,6 +17,13 @@ char Digit(char character) {
     const char lower =
         character >= 'A' && character <= 'F' ? static_cast<char>(character - 'A' + 'a') : character;
     return (lower >= '0' && lower <= '9') || (lower >= 'a' && lower <= 'f') ? lower : '\0';
+}
+
+// Identifiers derived from names rest on this digest: databases hold them, so it may never be exchanged.
+std::array<unsigned char, SHA256_DIGEST_LENGTH> Digest(const std::string& text) {
+    std::array<unsigned char, SHA256_DIGEST_LENGTH> digest{};
+    SHA256(reinterpret_cast<const unsigned char*>(text.data()), text.size(), digest.data());
+    return digest;
 }
 
 } // namespace
@@ -37,7 +45,7 @@ ObjectIdentifier ObjectIdentifier::Derived(std::string_view kind, std::string_vi
     text += '\0';
     text += name;
     ObjectIdentifier identifier;
-    for (const std::uint8_t octet : Sha256(text)) {
+    for (const unsigned char octet : Digest(text)) {
         if (identifier._digits.size() == Length)
             break;
         identifier._digits += digits[octet >> 4];
