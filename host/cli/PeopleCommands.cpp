@@ -1,6 +1,7 @@
 #include "cli/Commands.h"
 
 #include "cli/MessageOutput.h"
+#include "site/AdministratorKeys.h"
 #include "site/SiteAdministration.h"
 #include "site/ZOLIQrdServices.h"
 
@@ -108,7 +109,12 @@ void DeclareNamed(CLI::App& database, Job& job, const char* command, const char*
 void DeclareValue(CLI::App& database, Job& job) {
     const auto value = std::make_shared<std::pair<std::string, std::string>>();
     CLI::App& set = *database.add_subcommand("value", "set an administrator value; an empty one removes it");
-    set.add_option("NAME", value->first)->required();
+    std::vector<std::string> names;
+    for (const AdministratorKey& key : AdministratorKeys())
+        names.push_back(key.name);
+    set.add_option("NAME", value->first, "one of those that trellis config shows")
+        ->required()
+        ->check(CLI::IsMember(names));
     set.add_option("VALUE", value->second)->required();
     set.callback([&job, value] {
         job = Change([value](ZOLGYRError& error) {

@@ -35,7 +35,9 @@ void Read(const std::string& path, ZOLMsgCatalog::Texts& texts) {
 // Catalogues are kept with the folders they came from: those may change with the language, the files do not while
 // the process runs.
 std::shared_ptr<const ZOLMsgCatalog::Texts> Open(const std::string& name) {
-    static std::map<std::pair<std::string, std::vector<std::string>>, std::shared_ptr<const ZOLMsgCatalog::Texts>> open;
+    static std::map<std::pair<std::string, std::vector<std::string>>,
+                    std::shared_ptr<const ZOLMsgCatalog::Texts>>
+        open;
     const std::vector<std::string> files = trellis::ResourceFolders::FindAll(name);
     auto& texts = open[{name, files}];
     if (texts)

@@ -153,6 +153,15 @@ TEST_F(ProgramTest, ConfigTellsWhereEachValueComesFrom) {
     EXPECT_NE(output.find("built in"), std::string::npos);
 }
 
+TEST_F(ProgramTest, AdministratorValuesAreThoseOfTheDatabase) {
+    CreateWithPart();
+    EXPECT_EQ(Trellis({"db", "value", "NO_SUCH_VALUE", "x"}).exitCode, 2);
+    EXPECT_EQ(Trellis({"db", "value", "QRD_PROPOSED_EFF", "Y"}).exitCode, 0);
+    EXPECT_NE(Trellis({"config"}).output.find("QRD_PROPOSED_EFF = Y\n"), std::string::npos);
+    EXPECT_EQ(Trellis({"db", "value", "QRD_PROPOSED_EFF", ""}).exitCode, 0);
+    EXPECT_NE(Trellis({"config"}).output.find("(not set: off)"), std::string::npos);
+}
+
 TEST_F(ProgramTest, CheckFindsWhatAnotherProgramBroke) {
     CreateWithPart();
     EXPECT_EQ(Trellis({"db", "check"}).exitCode, 0);

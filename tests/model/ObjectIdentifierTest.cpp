@@ -7,7 +7,8 @@ namespace {
 
 // Databases hold derived identifiers, so the way they are derived may never change.
 TEST(ObjectIdentifierTest, DerivedIdentifiersAreThoseOfEarlierDatabases) {
-    EXPECT_EQ(ObjectIdentifier::Derived("part", "frame").Text(), "3c8477b05192c20d9008063bd7261c1943c20784f41ef20ec3");
+    EXPECT_EQ(ObjectIdentifier::Derived("part", "frame").Text(),
+              "3c8477b05192c20d9008063bd7261c1943c20784f41ef20ec3");
 }
 
 TEST(ObjectIdentifierTest, AllFormsMeanTheSame) {
