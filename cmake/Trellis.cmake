@@ -11,8 +11,10 @@ target_compile_options(trellis-flags INTERFACE
     -Wmissing-declarations -Wold-style-cast -Wunused)
 # With optimization g++ 12 sees faults inside std::string that are none; the sanitizers find the real ones.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-    target_compile_options(trellis-flags INTERFACE -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow
-        $<$<BOOL:${TRELLIS_SANITIZE}>:-Wno-maybe-uninitialized>)
+    target_compile_options(trellis-flags INTERFACE -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow)
+    if(TRELLIS_SANITIZE)
+        target_compile_options(trellis-flags INTERFACE -Wno-maybe-uninitialized)
+    endif()
 endif()
 target_link_options(trellis-flags INTERFACE -Wl,--no-undefined -Wl,--as-needed)
 if(TRELLIS_SANITIZE)
