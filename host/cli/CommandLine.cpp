@@ -6,8 +6,6 @@
 #include <CLI/Formatter.hpp>
 
 #include <clocale>
-#include <cstdlib>
-#include <iostream>
 
 namespace trellis {
 
@@ -34,15 +32,6 @@ void DeclareOptions(CLI::App& program, HostOptions& options) {
     program.fallthrough();
 }
 
-// Without a command people want the windows, which need a display.
-ExitCode RunWindows(HostSession&) {
-    const char* display = std::getenv("DISPLAY");
-    std::cerr << (display && *display ? "trellis: windows are not in this build yet"
-                                      : "trellis: there is no display for the windows")
-              << "; without them there are tree, script, import, db and config (trellis --help)\n";
-    return ExitCode::EnvironmentFailed;
-}
-
 ExitCode Start(HostOptions options, const Job& job) {
     HostSession session(std::move(options));
     return session.LoadSettings() ? job(session) : ExitCode::EnvironmentFailed;
@@ -50,10 +39,10 @@ ExitCode Start(HostOptions options, const Job& job) {
 
 } // namespace
 
-int CommandLine::Run(int argc, const char* const* argv) {
+int CommandLine::Run(int argc, const char* const* argv, ExitCode (*runWindows)(HostSession&)) {
     std::setlocale(LC_CTYPE, "");
     HostOptions options;
-    Job job = RunWindows;
+    Job job = runWindows;
     CLI::App program(Description, "trellis");
     DeclareOptions(program, options);
     program.require_subcommand(0, 1);

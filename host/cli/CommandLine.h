@@ -1,11 +1,16 @@
 #pragma once
 
+#include "cli/ExitCode.h"
+
 namespace trellis {
+
+class HostSession;
 
 // CommandLine: reads the arguments of the program, runs the job they ask for and gives the exit code.
 class CommandLine {
 public:
-    static int Run(int argc, const char* const* argv);
+    // `runWindows` is the job without a command.
+    static int Run(int argc, const char* const* argv, ExitCode (*runWindows)(HostSession&));
 };
 
 } // namespace trellis

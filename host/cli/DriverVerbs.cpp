@@ -4,7 +4,9 @@
 #include "toolkit/ZOLGraphViewer.h"
 #include "toolkit/ZOLUserDriver.h"
 
+#include <algorithm>
 #include <charconv>
+#include <iterator>
 
 namespace trellis {
 
@@ -42,6 +44,41 @@ bool OnOff(const std::string& word) {
     if (word != "on" && word != "off")
         throw ScriptRefusal('"' + word + "\" is neither on nor off");
     return word == "on";
+}
+
+struct NamedKey {
+    const char* name;
+    ZOLUserKey key;
+};
+
+constexpr NamedKey keys[] = {
+    {"Return", ZOLUserKey::Return},
+    {"Escape", ZOLUserKey::Escape},
+    {"Space", ZOLUserKey::Space},
+    {"Backspace", ZOLUserKey::Backspace},
+    {"Delete", ZOLUserKey::Delete},
+    {"Up", ZOLUserKey::Up},
+    {"Down", ZOLUserKey::Down},
+    {"Left", ZOLUserKey::Left},
+    {"Right", ZOLUserKey::Right},
+    {"Home", ZOLUserKey::Home},
+    {"End", ZOLUserKey::End},
+    {"PageUp", ZOLUserKey::PageUp},
+    {"PageDown", ZOLUserKey::PageDown},
+    {"Tab", ZOLUserKey::Tab},
+    {"F1", ZOLUserKey::F1},
+    {"Menu", ZOLUserKey::Menu},
+    {"Plus", ZOLUserKey::Plus},
+    {"Minus", ZOLUserKey::Minus},
+    {"Shift+Space", ZOLUserKey::ShiftSpace},
+};
+
+ZOLUserKey Key(const std::string& word) {
+    const auto* found = std::find_if(std::begin(keys), std::end(keys),
+                                     [&word](const NamedKey& key) { return key.name == word; });
+    if (found == std::end(keys))
+        throw ScriptRefusal('"' + word + "\" is no key");
+    return found->key;
 }
 
 ZOLGraphViewer* Graph(const std::string& path) {
@@ -88,6 +125,8 @@ std::vector<ScriptVerb> DriverVerbs() {
         {"enter", "PATH", 1, 1, [](const Words& w, std::ostream&) { Driver::Enter(Dialog(w[0])); }},
         {"select-text", "PATH FROM TO", 3, 3,
          [](const Words& w, std::ostream&) { Driver::SelectText(Dialog(w[0]), Number(w[1]), Number(w[2])); }},
+        {"key", "PATH KEY", 2, 2,
+         [](const Words& w, std::ostream&) { Driver::Key(Dialog(w[0]), Key(w[1])); }},
         {"rows", "PATH ROW...", 1, many,
          [](const Words& w, std::ostream&) {
              Driver::Select(Dialog(w[0]), Numbers(w.begin() + 1, w.end()));

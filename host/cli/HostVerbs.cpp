@@ -64,9 +64,22 @@ void Save() {
     ShowError(error);
 }
 
+const char* WordFor(UnsavedChange::Kind kind) {
+    switch (kind) {
+    case UnsavedChange::Kind::Added:
+        return "new";
+    case UnsavedChange::Kind::Removed:
+        return "removed";
+    case UnsavedChange::Kind::Changed:
+        break;
+    }
+    return "changed";
+}
+
 void ShowUnsaved(std::ostream& output) {
-    for (const ZOLUnicodeString& line : DatabaseSession::UnsavedChanges())
-        output << line.Bytes() << '\n';
+    for (const UnsavedChange& change : DatabaseSession::UnsavedChanges())
+        output << WordFor(change.kind) << ' ' << change.what.Bytes() << ": " << change.object.Bytes()
+               << (change.isStale ? " (changed by another user)" : "") << '\n';
 }
 
 void ShowParts(const ZOLListValZOLDMInstance& parts, std::ostream& output) {

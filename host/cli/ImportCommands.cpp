@@ -6,6 +6,8 @@
 
 #include <fmt/format.h>
 
+#include <unistd.h>
+
 #include <iostream>
 #include <memory>
 
@@ -13,8 +15,36 @@ namespace trellis {
 
 namespace {
 
-constexpr int FileHasProblems = 60203;
 constexpr int FileUnreadable = 60202;
+constexpr int StoreUnreachable = 20901;
+constexpr int StoreNotWritten = 20903;
+
+// How far an import is, on one line of a terminal that is written over and gone in the end. It holds no
+// colour and no control sequence but the carriage return, so every terminal shows it. A pipe or a file gets
+// nothing.
+class ProgressLine {
+public:
+    ~ProgressLine() { Write(""); }
+
+    // Must not outlive this.
+    ProgressCB Callback() {
+        if (isatty(STDERR_FILENO) == 0)
+            return {};
+        return [this](const ZOLUnicodeString& text, std::int64_t done, std::int64_t of) {
+            Write(fmt::format("{}: {} of {}", text.Bytes(), done, of));
+        };
+    }
+
+private:
+    void Write(const std::string& line) {
+        if (line.empty() && _length == 0)
+            return;
+        std::cerr << fmt::format("\r{:<{}}\r", line, _length) << line << std::flush;
+        _length = line.size();
+    }
+
+    std::size_t _length = 0; // of what stands there now
+};
 
 void PrintProblems(const std::vector<ImportProblem>& problems) {
     for (const ImportProblem& problem : problems) {
@@ -23,12 +53,19 @@ void PrintProblems(const std::vector<ImportProblem>& problems) {
     }
 }
 
-// What is wrong with the file is a problem found; all else that fails lies around it.
+// What cannot be read or written lies around the job; all else that fails is a problem found.
 ExitCode Verdict(const ZOLGYRError& error) {
     MessageOutput::Print(error);
-    if (error.GetCode() == 0)
+    switch (error.GetCode()) {
+    case 0:
         return ExitCode::Fine;
-    return error.GetCode() == FileUnreadable ? ExitCode::EnvironmentFailed : ExitCode::FoundProblem;
+    case FileUnreadable:
+    case StoreUnreachable:
+    case StoreNotWritten:
+        return ExitCode::EnvironmentFailed;
+    default:
+        return ExitCode::FoundProblem;
+    }
 }
 
 ExitCode ImportStructure(HostSession& session, const std::string& file) {
@@ -36,7 +73,10 @@ ExitCode ImportStructure(HostSession& session, const std::string& file) {
         return ExitCode::EnvironmentFailed;
     ZOLGYRError error;
     ImportReport report;
-    StructureImport::ReadFile(file, report, error);
+    {
+        ProgressLine line;
+        StructureImport::ReadFile(file, report, error, line.Callback());
+    }
     PrintProblems(report.problems);
     if (error.GetCode() == 0)
         fmt::print("parts: {} new, {} changed; links: {} new, {} changed\n", report.newParts,
@@ -49,7 +89,10 @@ ExitCode ImportDictionary(HostSession& session, const std::string& file, const s
         return ExitCode::EnvironmentFailed;
     ZOLGYRError error;
     DictionaryImportReport report;
-    DictionaryImport::ReadFile(file, product, report, error);
+    {
+        ProgressLine line;
+        DictionaryImport::ReadFile(file, product, report, error, line.Callback());
+    }
     PrintProblems(report.problems);
     if (error.GetCode() == 0)
         fmt::print("categories: {} new, {} changed; options: {} new, {} changed\n", report.newCategories,

@@ -78,13 +78,16 @@ const ModuleOperation* ModuleOperation::Find(const std::string& name) {
     return nullptr;
 }
 
-void ModuleOperation::Run(ZOLIQRDCfgInterfaces& module, ZOLDialog* parent, Parts parts) const {
+ZOLUnicodeString ModuleOperation::Run(ZOLIQRDCfgInterfaces& module, ZOLDialog* parent, Parts parts) const {
     const CallbackScope scope;
     ZOLGYRError error;
     call(module, parent, parts, error);
     // SetDefaultCH has shown its own.
     if (error.GetCode() != 0 && std::string(name) != "SetDefaultCH")
         ZOLGYRDlgError::Display(parent, error, 0);
+    ZOLUnicodeString text;
+    error.GetLongMsg(text);
+    return text;
 }
 
 } // namespace trellis

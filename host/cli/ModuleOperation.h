@@ -21,8 +21,9 @@ struct ModuleOperation {
     static const std::vector<ModuleOperation>& All();
     static const ModuleOperation* Find(const std::string& name);
 
-    // Calls it as a callback of the toolkit, and shows what comes back in the carrier, as every host must.
-    void Run(ZOLIQRDCfgInterfaces& module, ZOLDialog* parent, Parts parts) const;
+    // Calls it as a callback of the toolkit, and shows what comes back in the carrier, as every host must. Answers the
+    // text that was shown, or an empty one.
+    ZOLUnicodeString Run(ZOLIQRDCfgInterfaces& module, ZOLDialog* parent, Parts parts) const;
 };
 
 } // namespace trellis

@@ -1,5 +1,6 @@
 #include "cli/CommandLine.h"
+#include "navigator/NavigatorCommand.h"
 
 int main(int argc, char** argv) {
-    return trellis::CommandLine::Run(argc, argv);
+    return trellis::CommandLine::Run(argc, argv, trellis::RunNavigator);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "values/ProgressCB.h"
 #include "values/TrellisApi.h"
 #include "values/ZOLGYRError.h"
 #include "values/ZOLUnicodeString.h"
@@ -35,10 +36,11 @@ public:
     enum class Form { Csv, Json };
 
     // The form follows from the ending: ".json" is JSON, all else CSV.
-    static bool ReadFile(const ZOLUnicodeString& path, ImportReport& report, ZOLGYRError& error);
+    static bool ReadFile(const ZOLUnicodeString& path, ImportReport& report, ZOLGYRError& error,
+                         const ProgressCB& progress = {});
     // The same from memory; `name` stands for the path in messages.
     static bool ReadText(std::string_view text, Form form, const ZOLUnicodeString& name, ImportReport& report,
-                         ZOLGYRError& error);
+                         ZOLGYRError& error, const ProgressCB& progress = {});
 };
 
 } // namespace trellis

@@ -34,10 +34,11 @@ public:
     // The form follows from the ending: ".json" is JSON, all else CSV. The product is named by its number or
     // identifier.
     static bool ReadFile(const ZOLUnicodeString& path, const ZOLUnicodeString& product,
-                         DictionaryImportReport& report, ZOLGYRError& error);
+                         DictionaryImportReport& report, ZOLGYRError& error, const ProgressCB& progress = {});
     // The same from memory; `name` stands for the path in messages.
     static bool ReadText(std::string_view text, Form form, const ZOLUnicodeString& name,
-                         const ZOLUnicodeString& product, DictionaryImportReport& report, ZOLGYRError& error);
+                         const ZOLUnicodeString& product, DictionaryImportReport& report, ZOLGYRError& error,
+                         const ProgressCB& progress = {});
 };
 
 } // namespace trellis

@@ -11,11 +11,11 @@ class ZOLIQrdConfigItem;
 
 // ZOLIQrdEffectivity: a stored option of a dictionary, or a stored effectivity of a config item.
 //
-// Handles are equal when they mean the same stored object, also across an unload. An object that was removed
-// or unloaded answers with what it last held; a change of it sets 60301 (its name). Setters check no
-// uniqueness, so that names can be swapped; giving the value that is there already changes nothing and needs
-// no right. Every setter may be refused as DoIModifyIt of the option's category tells: a number of RightTable
-// (user), or 60402 (category, owner). Nothing here saves.
+// Handles are equal when they mean the same stored object, also across an unload, after which they read it
+// anew. An object that was removed answers with what it last held; a change of it sets 60301 (its name).
+// Setters check no uniqueness, so that names can be swapped; giving the value that is there already changes
+// nothing and needs no right. Every setter may be refused as DoIModifyIt of the option's category tells: a
+// number of RightTable (user), or 60402 (category, owner). Nothing here saves.
 class TRELLIS_API ZOLIQrdEffectivity : public ZOLBaseUnknown {
     ZOL_META_OBJECT(ZOLIQrdEffectivity, ZOLBaseUnknown)
 public:

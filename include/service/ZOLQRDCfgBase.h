@@ -21,8 +21,8 @@ public:
     static int GetPrivilege();
     // 1 when the current user may change the category: the right holds ("ManageOptionDictionary" at the
     // part's site, in the corporate dictionary "ManageOptionDictionaryCorp"), and in a part's dictionary the
-    // owner is the user, or the organization is the user's, or there is no owner; or the privilege is 10 or
-    // more. 0 for a null handle.
+    // owner is the user, or the organization is the user's, or there is no owner. There a privilege of 10 or
+    // more stands for both; the corporate right has no such override. 0 for a null handle.
     static int DoIModifyIt(const ZOLIQrdCategory_var& category);
     // The current person; never null.
     static ZOLIQrdPEPeople_var WhoAmI();

@@ -5,23 +5,12 @@
 #include "service/ZOLQRDConfigurableObject.h"
 
 #include <memory>
-#include <vector>
 
 class ZOLDMInstance;
 
 namespace trellis {
 
 class ConfigurationMemory;
-
-// An object with unsaved changes.
-struct UnsavedChange {
-    enum class Kind { Added, Changed, Removed };
-
-    Kind kind;
-    ZOLUnicodeString object; // its name
-    ZOLUnicodeString what;   // "category", "option", "part", ...
-    bool isStale = false;    // the last save was refused because of it
-};
 
 } // namespace trellis
 
@@ -48,10 +37,8 @@ public:
     // leaves that code. A refusal writes nothing, leaves memory changed, and can be repeated: 20902 (object,
     // user) when another changed it, 20904 (object) when another removed it, 20903, 20901.
     void Save(ZOLGYRError& error);
-    // What Save would write, in the order in which it would.
-    void GetUnsavedChanges(std::vector<trellis::UnsavedChange>& changes) const;
-    // Brings all, or one dictionary or config item with all that is in it, back to what is stored.
-    void DiscardUnsaved(ZOLGYRError& error);
+    // Brings one dictionary or config item with all that is in it back to what is stored. (DatabaseSession
+    // lists the unsaved changes, and discards all at once.)
     void DiscardUnsaved(const ZOLIQrdConfigItem_var& item, ZOLGYRError& error);
 
     // Fills the object of a configurable part. 20265 exactly when the part is there and not configurable.
@@ -78,7 +65,7 @@ public:
     // options. 20265; 20904 when there is none. Right "DeleteOptionDictionary".
     void DeleteDictionary(const ZOLDMInstance& part, ZOLGYRError& error);
     // Forgets what memory holds of a dictionary, unsaved changes too; the next access reads anew. Handles
-    // stay alive and equal those read later. The number is 0.
+    // stay alive, equal those read later, and answer with what is stored. The number is 0.
     void UnloadDictionary(const ZOLIQrdConfigItem_var& dictionary, int);
 
     void GetCategoriesFromDictionary(const ZOLIQrdConfigItem_var& dictionary,

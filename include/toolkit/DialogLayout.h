@@ -1,5 +1,6 @@
 #pragma once
 
+#include "toolkit/DialogButtons.h"
 #include "toolkit/LayoutTypes.h"
 #include "values/TrellisApi.h"
 
@@ -8,15 +9,17 @@
 #include <vector>
 
 class ZOLDialog;
+class ZOLDlgDialog;
+class ZOLDlgSplitter;
 
 namespace trellis {
 
 class TextMeasure;
 
 // DialogLayout: where everything in a window stands, computed when somebody looks. Children stand below each
-// other or side by side with one spacing; in a column, a label with a field behind it makes one line of a
-// form, whose labels are equally wide; the buttons of a dialog stand in a row at the bottom; what grows
-// shares the room that is left.
+// other or side by side with one spacing; in a column, a field with its title or with a label before it makes
+// one line of a form, whose labels are equally wide; the panes of a splitter share its room; the buttons of a
+// dialog stand in a row at the bottom, at its right end; what grows shares the room that is left.
 class TRELLIS_API DialogLayout {
 public:
     // `size` is that of the window; where it is 0, or less than what the texts need, the natural one counts.
@@ -25,13 +28,23 @@ public:
     LayoutSize GetSize() const { return _size; }
     // Where a dialog stands in the window; nothing for one that takes no room in it.
     std::optional<LayoutRectangle> Find(const ZOLDialog& dialog) const;
-    // Where the row of buttons stands; empty in windows without one.
+    // Where the title of an editor or combo stands, before it; nothing for one without a title.
+    std::optional<LayoutRectangle> FindTitle(const ZOLDialog& field) const;
+    // Where the row of buttons stands, and a button in it; empty in windows without one, and nothing for a
+    // button that is not there.
     LayoutRectangle GetButtonRow() const { return _buttonRow; }
+    std::optional<LayoutRectangle> FindButton(ZOLDialogButton button) const;
 
 private:
-    // Children that stand side by side. Aligned rows share the widths of their columns.
+    // A child, or one of the two parts of a field with a title.
+    struct Cell {
+        enum Part { Whole, Title, Field };
+        const ZOLDialog* dialog;
+        Part part = Whole;
+    };
+    // Cells that stand side by side. Aligned rows share the widths of their columns.
     struct Row {
-        std::vector<const ZOLDialog*> cells;
+        std::vector<Cell> cells;
         bool isAligned = false;
     };
     struct Insets {
@@ -40,13 +53,20 @@ private:
         int bottom = 0;
     };
 
+    std::vector<Row> FormOf(const std::vector<const ZOLDialog*>& children) const;
     std::vector<Row> RowsOf(const ZOLDialog& holder) const;
     std::vector<int> ColumnWidths(const std::vector<Row>& rows);
     Insets InsetsOf(const ZOLDialog& holder) const;
+    LayoutSize ButtonSize(const ZOLDlgDialog& dialog) const;
+    LayoutSize ButtonRowSize(const ZOLDialog& holder) const;
     LayoutSize Natural(const ZOLDialog& dialog);
+    LayoutSize Natural(const Cell& cell);
     LayoutSize NaturalContent(const ZOLDialog& holder);
     LayoutSize NaturalRow(const Row& row, const std::vector<int>& columns);
     void Place(const ZOLDialog& dialog, const LayoutRectangle& area);
+    void Place(const Cell& cell, const LayoutRectangle& area);
+    void PlaceButtons(const ZOLDlgDialog& dialog);
+    void PlacePanes(const ZOLDlgSplitter& splitter, const LayoutRectangle& area);
     void PlaceRows(const std::vector<Row>& rows, const LayoutRectangle& area);
     void PlaceRow(const Row& row, const std::vector<int>& columns, const LayoutRectangle& area);
 
@@ -55,6 +75,8 @@ private:
     LayoutRectangle _buttonRow;
     std::unordered_map<const ZOLDialog*, LayoutSize> _natural;
     std::unordered_map<const ZOLDialog*, LayoutRectangle> _places;
+    std::unordered_map<const ZOLDialog*, LayoutRectangle> _titles;
+    std::unordered_map<ZOLDialogButton, LayoutRectangle> _buttons;
 };
 
 } // namespace trellis

@@ -39,7 +39,14 @@ public:
     // The arcs that are drawn between two drawn nodes, also those to a child that hangs elsewhere.
     std::vector<ZOLGraphArc*> Arcs() const;
 
-    // The room that one node takes.
+    // Distances inside a node, in pixels: around its text with and without decoration, the room of a pixmap with
+    // the gap behind it, and the gap before the sign.
+    static constexpr int Frame = 4;
+    static constexpr int Bare = 1;
+    static constexpr int IconRoom = 20;
+    static constexpr int SignGap = 6;
+    // The room that one node takes: frame, pixmap, the lines of the text, and behind them a gap and one character
+    // for the sign of the colour.
     static LayoutSize NodeSize(const ZOLGraphNode& node, const TextMeasure& measure);
 
 private:

@@ -16,6 +16,8 @@ public:
     // Of a character of middling width, in which visible widths are counted.
     virtual int GetCharacterWidth() const;
     virtual int GetLineHeight() const;
+    // Of a row of a list, with the space above and below its text.
+    virtual int GetRowHeight() const;
 };
 
 } // namespace trellis

@@ -9,7 +9,11 @@ class TRELLIS_API ZOL2DViewer : public ZOLDialog {
 public:
     // Another size of the area, in pixels; numbers below 1 count as 1.
     void ResizeGraph(int width, int height);
-    trellis::LayoutSize GetAreaSize() const { return _area; }
+    // The area as it is shown, else as it was asked for; in units of the drawing.
+    trellis::LayoutSize GetAreaSize() const;
+    // For views: how much of the drawing has room on the screen. It differs from what was asked for when the
+    // window is larger or smaller, or the drawing is magnified. Marks nothing.
+    void SetShownArea(trellis::LayoutSize area);
     // An index of trellis::GraphPalette; the background is white at first, index 6.
     void SetBackgroundColor(int index);
     int GetBackgroundColor() const { return _background; }
@@ -27,6 +31,7 @@ protected:
 
 private:
     trellis::LayoutSize _area;
+    trellis::LayoutSize _shownArea; // 0 by 0 without a view
     int _background = 6;
     int _sizing;
 };

@@ -23,8 +23,9 @@ enum ZOLSensitivity { ZOLActive = 8, ZOLGreyed = 16 };
 // view, if there is one, only mirrors it.
 //
 // The owner is given at construction; it owns this dialog (with one reference) and destroys it with itself.
-// Without an owner the toolkit holds it until RequestDelayedDestruction, or until somebody deletes it. The
-// father, where notifications go, is the owner at first.
+// Without an owner the toolkit holds it until RequestDelayedDestruction, or until somebody deletes it. What is
+// built in an owner that is being given up is given up with it. The father, where notifications go, is the
+// owner at first.
 class TRELLIS_API ZOLDialog : public ZOLCommand {
     ZOL_META_OBJECT(ZOLDialog, ZOLCommand)
 public:

@@ -32,7 +32,8 @@ public:
 
     // Shows the dialog and waits: 1, 2 or 3 for OK, Cancel and Help, 0 when its window was closed. These
     // three answer and send nothing meanwhile; all else in the dialog works as ever. It is hidden again when
-    // this returns. Without a view the next queued answer is taken (see ZOLUserDriver).
+    // this returns. Hidden or given up while it waits, it answers 0. Without a view the next queued answer is
+    // taken (see ZOLUserDriver).
     int DisplayBlocked();
 
     // NotThere for a button that the dialog does not have.

@@ -39,6 +39,9 @@ public:
     void SetMaxCharacterWidth(int characters) { _maximum = characters; }
     void SetVisibleTextWidth(int characters);
     void SetVisibleTextHeight(int lines);
+    int GetVisibleTextWidth() const { return _visibleWidth; }
+    int GetVisibleTextHeight() const { return _visibleHeight; }
+    int GetMaxCharacterWidth() const { return _maximum; }
     // Asked once for each key, each paste and each text set by code, before the text changes: GetText still
     // gives the old one. A text that the function itself sets on this editor is not asked for again. Null
     // asks nobody.
@@ -46,13 +49,14 @@ public:
 
     bool IsReadOnly() const;
     bool HasSeveralLines() const;
-    // One key or one paste: replaces the selection, or goes in at the caret. Refused when the limit or the
-    // verify function do not let it in.
-    ZOLUserResult UserInsert(const ZOLUnicodeString& text);
+    // One key or one paste: replaces the selection, or goes in at the caret. Line feeds become blanks in an
+    // editor of one line. Refused when the limit or the verify function do not let it in.
+    ZOLUserResult UserInsert(const ZOLUnicodeString& pasted);
     ZOLUserResult UserSelectText(int start, int end);
     // Return: confirms, or begins a new line in an editor of several.
     ZOLUserResult UserEnter();
-    // The user goes elsewhere: confirms when something was typed since the last confirmation.
+    // The user goes elsewhere: confirms when something was typed since the last confirmation, unless the
+    // editor cannot be acted on any more.
     void UserLeave();
 
     const char* GetKind() const override;

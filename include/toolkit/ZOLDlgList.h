@@ -13,6 +13,8 @@ public:
     ZOLNotification* GetListSelectNotification() { return &_selectNotification; }
 
     virtual int GetLineCount() const = 0;
+    // How many lines show without scrolling.
+    virtual int GetVisibleLineCount() const = 0;
     // The text by which a user tells a row from others.
     virtual ZOLUnicodeString GetRowText(int row) const = 0;
 

@@ -36,7 +36,8 @@ public:
     // How many columns and lines the list shows without scrolling; 0 columns, as at first: all.
     void SetVisibleColumnCount(int count);
     void SetVisibleLineCount(int count);
-    int GetVisibleLineCount() const { return _visibleLines; }
+    int GetVisibleColumnCount() const { return _visibleColumns; }
+    int GetVisibleLineCount() const override { return _visibleLines; }
     int GetLineCount() const override { return static_cast<int>(_rows.size()); }
     // Takes out one row, or all for -1. The rows behind it move up at once; a selected row leaves the
     // selection, and nothing is sent.

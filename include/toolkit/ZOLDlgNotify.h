@@ -20,7 +20,8 @@ public:
 
     // Shows the box and waits: 1, 2 or 3 for OK, Cancel and Help, 0 when its window was closed. Meanwhile the
     // window of the father and the owners of that window take no input; all others work and may call back.
-    // Without a view the next queued answer is taken, and a notice answers 1 by itself (see ZOLUserDriver).
+    // Without a view the next queued answer is taken, and a notice answers 1 by itself (see ZOLUserDriver). A
+    // box that goes with its father while it waits answers 0.
     int DisplayBlocked(const ZOLUnicodeString& text, const ZOLUnicodeString& title);
     // The same for a message with a number, over the window of any dialog: null, gone or going means the top
     // window.

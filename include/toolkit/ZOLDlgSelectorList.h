@@ -20,6 +20,8 @@ public:
 
     void SetVisibleTextWidth(int characters);
     void SetVisibleTextHeight(int lines);
+    int GetVisibleTextWidth() const { return _visibleWidth; }
+    int GetVisibleLineCount() const override { return _visibleHeight; }
 
     const char* GetKind() const override;
     void DescribeTo(trellis::DialogDescription& description) const override;

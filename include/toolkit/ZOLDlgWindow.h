@@ -7,12 +7,15 @@
 class TRELLIS_API ZOLDlgWindow : public ZOLDialog {
     ZOL_META_OBJECT(ZOLDlgWindow, ZOLDialog)
 public:
-    // The father may be null: a window of the host. Style 0x200: it stays above its father; 0x2000000: modal.
+    // The father may be null, gone or going: the window then stands alone. Style 0x200: it stays above its
+    // father; 0x2000000: modal, so that the windows that own it take no input while it is shown.
     ZOLDlgWindow(ZOLDialog* father, const ZOLString& name, unsigned long style = 0);
 
     // Sent to this window itself, then its fathers, when the user closes it.
     ZOLNotification* GetWindCloseNotification() { return &_closeNotification; }
     void SetVisibility(int visibility) override;
+    bool IsModal() const;
+    bool StaysAboveFather() const;
 
     virtual ZOLUserResult UserClose();
 

@@ -14,15 +14,27 @@ class ZOLDialog;
 class ZOLGraphNode;
 class ZOLGraphViewer;
 
-// Keys that do something beyond text.
+// Keys that do something beyond text. In a graph they act on the node that has the focus.
 enum class ZOLUserKey {
     Return,    // confirms an editor, activates a selected row, presses a button; else the default button
-    Escape,    // acts as the close box of the window
-    Space,     // presses a button, switches a check or radio button
+    Escape,    // closes an open menu, else acts as the close box of the window
+    Space,     // presses a button, switches a check or radio button; clicks the node of a graph
     Backspace, // takes the selected text, or the character before the caret
     Delete,    // takes the selected text, or the character behind the caret
-    Up,        // the row or line before the selected one
+    Up,        // the row or line before the selected one; the caret; the focus of a graph
     Down,
+    Left, // the caret; the focus of a graph; the page before of tabs
+    Right,
+    Home, // the first row or line; the begin of the caret's line
+    End,
+    PageUp, // as many rows or lines up as show at once
+    PageDown,
+    Tab,        // goes on to the next widget, which leaves an editor
+    F1,         // opens the help page of the class; presses no button
+    Menu,       // opens the contextual menu, of the nearest holder where the widget has none
+    Plus,       // opens the branch of a node
+    Minus,      // closes it
+    ShiftSpace, // the other click on a node: rejects an option, opens the menu of others
 };
 
 // ZOLUserDriver: does what a user can do, for tests, scripts and hosts. Nothing else: what a user could not

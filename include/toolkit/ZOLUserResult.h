@@ -6,7 +6,7 @@ enum class ZOLUserResult {
     Insensitive,    // the widget, or a holder of it, is greyed
     Hidden,         // it is not on the screen, or is being given up
     ReadOnly,       // the text cannot be edited
-    BehindQuestion, // an open question keeps its window from answering
+    BehindQuestion, // an open question or modal window keeps its window from answering
     NotThere,       // no such row, line, page, button, item or text
     Refused,        // the verify function of the editor, or its limit, did not let the text in
 };

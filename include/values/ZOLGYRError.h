@@ -26,6 +26,8 @@ public:
              const ZOLUnicodeString* others);
     // The same with all texts in one list.
     void Set(const int code, const int mode, std::initializer_list<ZOLUnicodeString> parameters);
+    // Sets the code and replaces the texts; the mode stays.
+    void Set(const int code, std::vector<ZOLUnicodeString> parameters);
     // Appends one parameter of the message; order is kept, before or after Set.
     void Add(const ZOLUnicodeString& parameter) { _parameters.push_back(parameter); }
     // Puts a text in place of the one of the catalogue: for errors that bring their own words.

@@ -1,7 +1,9 @@
 #include "model/DatabaseSession.h"
 
 #include "model/EventDelivery.h"
+#include "model/ObjectIdentifier.h"
 #include "model/ZOLDMClipboard.h"
+#include "model/ZOLDMInstance.h"
 #include "site/LoggedInUser.h"
 #include "store/StoreExamination.h"
 #include "store/Workspace.h"
@@ -13,7 +15,7 @@ namespace {
 bool Use(ZOLGYRError& error, const std::string& url,
          std::unique_ptr<StoreSession> (*open)(const std::string&)) {
     try {
-        auto workspace = std::make_unique<Workspace>(open(url), LoggedInUser());
+        auto workspace = std::make_unique<Workspace>(open(url), &LoggedInUser);
         DeliverEventsOf(*workspace);
         Workspace::MakeCurrent(std::move(workspace));
         ZOLDMClipboard::SetObjects({});
@@ -41,15 +43,44 @@ bool WithSession(ZOLGYRError& error, Look&& look) {
     }
 }
 
-const char* WordFor(StoredObject::State state) {
-    switch (state) {
-    case StoredObject::State::New:
-        return "new";
-    case StoredObject::State::Removed:
-        return "removed";
-    default:
-        return "changed";
-    }
+// What people call the kinds of objects, in the order of RowKind.
+const char* KindName(RowKind kind) {
+    static constexpr const char* names[] = {"part",
+                                            "attribute",
+                                            "link",
+                                            "configurable part",
+                                            "config item",
+                                            "category",
+                                            "option",
+                                            "option of a package",
+                                            "attribute",
+                                            "default option",
+                                            "effectivity of a link",
+                                            "person",
+                                            "role",
+                                            "organization",
+                                            "site",
+                                            "person above",
+                                            "right",
+                                            "administrator value",
+                                            "event"};
+    static_assert(std::size(names) == static_cast<std::size_t>(RowKind::Count));
+    return names[static_cast<std::size_t>(kind)];
+}
+
+UnsavedChange::Kind ChangeKind(StoredObject::State state) {
+    if (state == StoredObject::State::Removed)
+        return UnsavedChange::Kind::Removed;
+    return state == StoredObject::State::New ? UnsavedChange::Kind::Added : UnsavedChange::Kind::Changed;
+}
+
+// Rows that stand for a part are named by its identifier, which tells people nothing.
+ZOLUnicodeString NameOf(const StoredObject& object) {
+    const std::string name = object.DisplayName();
+    const ObjectIdentifier identifier(name);
+    return identifier.IsEmpty()
+               ? ZOLUnicodeString(name)
+               : ZOLDMInstance(identifier.Octets(), 0, 0, 0).GetNameInstance(1, 1, " ", "$BOM_NAVIG");
 }
 
 } // namespace
@@ -93,13 +124,14 @@ bool DatabaseSession::Check(ZOLListValZOLUnicodeString& problems, ZOLGYRError& e
     });
 }
 
-std::vector<ZOLUnicodeString> DatabaseSession::UnsavedChanges() {
-    std::vector<ZOLUnicodeString> lines;
+std::vector<UnsavedChange> DatabaseSession::UnsavedChanges() {
+    std::vector<UnsavedChange> changes;
     if (!Workspace::Current())
-        return lines;
-    for (const auto& object : Workspace::Current()->Unsaved())
-        lines.emplace_back(std::string(WordFor(object->GetState())) + ": " + object->DisplayName());
-    return lines;
+        return changes;
+    for (const std::shared_ptr<StoredObject>& object : Workspace::Current()->Unsaved())
+        changes.push_back(
+            {ChangeKind(object->GetState()), NameOf(*object), KindName(object->Kind()), object->IsStale()});
+    return changes;
 }
 
 bool DatabaseSession::DiscardUnsaved(ZOLGYRError& error) {

@@ -1,8 +1,8 @@
 // The operations of ZOLDMInstance that walk the structure.
-#include "model/FailureTrace.h"
 #include "model/InstanceAccess.h"
 #include "model/ObjectIdentifier.h"
 #include "model/ZOLDMInstance.h"
+#include "values/FailureTrace.h"
 
 #include <algorithm>
 #include <unordered_map>

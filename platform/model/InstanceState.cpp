@@ -1,6 +1,6 @@
 #include "model/InstanceState.h"
 
-#include "model/FailureTrace.h"
+#include "values/FailureTrace.h"
 
 #include <charconv>
 

@@ -11,15 +11,19 @@ namespace trellis {
 
 namespace {
 
+// False, with a code, on a failure.
 bool Fill(const StoreQuery<PartRow>& query, ZOLListValZOLDMInstance& result, ZOLGYRError& error) {
     result.RemoveAll();
     if (!Workspace::Current()) {
         error.Set(60201);
         return false;
     }
-    for (const auto& part : Workspace::Current()->Find(query, error))
+    ZOLGYRError failure; // a code that stands in the caller's is none of this query
+    for (const auto& part : Workspace::Current()->Find(query, failure))
         result.Append(InstanceAccess::Of(part));
-    return result.Size() > 0;
+    if (failure.GetCode() != 0)
+        error = failure;
+    return failure.GetCode() == 0;
 }
 
 // Ids of the child parts of links that are to be removed.
@@ -66,7 +70,7 @@ void PartQuery::ByWord(const ZOLUnicodeString& word, ZOLListValZOLDMInstance& re
                               Query().Where(&PartRow::uuid, ObjectIdentifier::Derived("part", text).Text()),
                               Query().Where(&PartRow::name, text)};
     for (const Query& meaning : meanings)
-        if (Fill(meaning, result, error) || error.GetCode() != 0)
+        if (!Fill(meaning, result, error) || result.Size() > 0)
             return;
 }
 

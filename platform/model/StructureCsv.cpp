@@ -1,4 +1,3 @@
-#include "model/CsvReader.h"
 #include "model/StructureReaders.h"
 
 #include <algorithm>
@@ -58,56 +57,32 @@ bool SameColumn(const CsvColumn& a, const CsvColumn& b) {
            a.attribute == b.attribute;
 }
 
-CsvHeader ReadHeader(const CsvReader::Row& row, ImportReport& report) {
+CsvHeader ReadHeader(const CsvReader::Row& row, ImportText::Problems& problems) {
     CsvHeader header;
     bool hasParent = false;
     bool hasChild = false;
     for (const std::string& title : row.fields) {
         CsvColumn column;
         if (!ColumnOf(title, column))
-            NoteProblem(report, row.line, 60217, {title});
+            ImportText::Note(problems, row.line, 60217, {title});
         else if (std::any_of(header.columns.begin(), header.columns.end(),
                              [&](const CsvColumn& other) { return SameColumn(column, other); }))
-            NoteProblem(report, row.line, 60218, {title});
+            ImportText::Note(problems, row.line, 60218, {title});
         header.hasRecord |= column.kind == CsvColumn::Kind::Record;
         hasParent |= column.member == &StructureRecord::parent;
         hasChild |= column.member == &StructureRecord::child;
         header.columns.push_back(std::move(column));
     }
     if (!header.hasRecord && !(hasParent && hasChild))
-        NoteProblem(report, row.line, 60219);
+        ImportText::Note(problems, row.line, 60219);
     return header;
 }
 
-int NumberOf(CsvReader::Fault fault) {
-    switch (fault) {
-    case CsvReader::Fault::UnclosedQuote:
-        return 60213;
-    case CsvReader::Fault::LongField:
-        return 60214;
-    case CsvReader::Fault::StrayQuote:
-        return 60215;
-    case CsvReader::Fault::None:
-        break;
-    }
-    return 0;
-}
-
-// False when the row is faulty, which is noted.
-bool CheckRow(const CsvReader::Row& row, ImportReport& report) {
-    const int number = NumberOf(row.fault);
-    if (number == 60214)
-        NoteProblem(report, row.line, number, {std::to_string(CsvReader::LongestField)});
-    else if (number != 0)
-        NoteProblem(report, row.line, number);
-    return number == 0;
-}
-
 void ReadRecord(const CsvHeader& header, const CsvReader::Row& row, StructureFile& file,
-                ImportReport& report) {
+                ImportText::Problems& problems) {
     if (row.fields.size() != header.columns.size())
-        return NoteProblem(report, row.line, 60216,
-                           {std::to_string(row.fields.size()), std::to_string(header.columns.size())});
+        return ImportText::Note(problems, row.line, 60216,
+                                {std::to_string(row.fields.size()), std::to_string(header.columns.size())});
     StructureRecord record;
     record.line = row.line;
     for (std::size_t i = 0; i < row.fields.size(); ++i) {
@@ -120,35 +95,35 @@ void ReadRecord(const CsvHeader& header, const CsvReader::Row& row, StructureFil
         else if (column.kind == CsvColumn::Kind::Record && text == "part")
             record.kind = StructureRecord::Kind::Part;
         else if (column.kind == CsvColumn::Kind::Record && text != "link")
-            return NoteProblem(report, row.line, 60220, {text});
+            return ImportText::Note(problems, row.line, 60220, {text});
     }
     file.records.push_back(std::move(record));
 }
 
 } // namespace
 
-StructureFile ReadStructureCsv(std::string_view text, ImportReport& report) {
+StructureFile ReadStructureCsv(std::string_view text, ImportText::Problems& problems) {
     StructureFile file;
     CsvReader reader(text);
     CsvReader::Row row;
     if (!reader.Next(row)) {
-        NoteProblem(report, 0, 60210);
+        ImportText::Note(problems, 0, 60210);
         return file;
     }
-    if (!CheckRow(row, report))
+    if (!ImportText::CheckRow(row, problems))
         return file;
-    const CsvHeader header = ReadHeader(row, report);
-    if (!report.problems.empty()) // no row can be judged then
+    const CsvHeader header = ReadHeader(row, problems);
+    if (!problems.empty()) // no row can be judged then
         return file;
     file.makesParts = !header.hasRecord;
     bool hasRows = false;
     while (reader.Next(row)) {
         hasRows = true;
-        if (CheckRow(row, report))
-            ReadRecord(header, row, file, report);
+        if (ImportText::CheckRow(row, problems))
+            ReadRecord(header, row, file, problems);
     }
     if (!hasRows)
-        NoteProblem(report, 0, 60210);
+        ImportText::Note(problems, 0, 60210);
     return file;
 }
 

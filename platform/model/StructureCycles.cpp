@@ -21,7 +21,7 @@ struct Arc {
 class StructureWalk {
 public:
     StructureWalk(StoreSession& session, const StructureDraft& draft, const std::vector<std::int64_t>& ids);
-    void NoteCycles(ImportReport& report);
+    void NoteCycles(ImportText::Problems& problems);
 
 private:
     struct Step {
@@ -32,8 +32,8 @@ private:
     void AddStoredLinks(StoreSession& session, const StructureDraft& draft,
                         const std::vector<std::int64_t>& ids);
     std::size_t NodeOf(std::int64_t id);
-    void WalkFrom(std::size_t root, ImportReport& report);
-    void Note(const Arc& arc, ImportReport& report);
+    void WalkFrom(std::size_t root, ImportText::Problems& problems);
+    void Note(const Arc& arc, ImportText::Problems& problems);
     std::string NameOf(std::size_t node) const { return node < _names.size() ? _names[node] : "..."; }
 
     enum class Mark : char { Unseen, OnPath, Done };
@@ -89,14 +89,14 @@ void StructureWalk::AddStoredLinks(StoreSession& session, const StructureDraft& 
     }
 }
 
-void StructureWalk::NoteCycles(ImportReport& report) {
+void StructureWalk::NoteCycles(ImportText::Problems& problems) {
     _marks.assign(_arcs.size(), Mark::Unseen);
     for (std::size_t node = 0; node < _names.size(); ++node)
         if (_marks[node] == Mark::Unseen)
-            WalkFrom(node, report);
+            WalkFrom(node, problems);
 }
 
-void StructureWalk::WalkFrom(std::size_t root, ImportReport& report) {
+void StructureWalk::WalkFrom(std::size_t root, ImportText::Problems& problems) {
     _path.push_back({root, 0});
     _marks[root] = Mark::OnPath;
     while (!_path.empty()) {
@@ -108,7 +108,7 @@ void StructureWalk::WalkFrom(std::size_t root, ImportReport& report) {
         }
         const Arc arc = _arcs[step.node][step.next++];
         if (_marks[arc.child] == Mark::OnPath) {
-            Note(arc, report);
+            Note(arc, problems);
         } else if (_marks[arc.child] == Mark::Unseen) {
             _marks[arc.child] = Mark::OnPath;
             _path.push_back({arc.child, 0});
@@ -118,7 +118,7 @@ void StructureWalk::WalkFrom(std::size_t root, ImportReport& report) {
 
 // The cycle goes from the arc's child down the path and back. It is told at a line of the file: the arc's own, or that
 // of another link on the cycle.
-void StructureWalk::Note(const Arc& arc, ImportReport& report) {
+void StructureWalk::Note(const Arc& arc, ImportText::Problems& problems) {
     auto step =
         std::find_if(_path.begin(), _path.end(), [&](const Step& each) { return each.node == arc.child; });
     int line = arc.line;
@@ -129,14 +129,14 @@ void StructureWalk::Note(const Arc& arc, ImportReport& report) {
         if (names.size() < 200)
             names += NameOf(step->node) + " > ";
     }
-    NoteProblem(report, line, 60228, {names + NameOf(arc.child)});
+    ImportText::Note(problems, line, 60228, {names + NameOf(arc.child)});
 }
 
 } // namespace
 
 void NoteCycles(StoreSession& session, const StructureDraft& draft, const std::vector<std::int64_t>& ids,
-                ImportReport& report) {
-    StructureWalk(session, draft, ids).NoteCycles(report);
+                ImportText::Problems& problems) {
+    StructureWalk(session, draft, ids).NoteCycles(problems);
 }
 
 } // namespace trellis

@@ -40,8 +40,8 @@ bool ReadPosition(const std::string& text, std::int64_t& position) {
 
 } // namespace
 
-StructureDraft::StructureDraft(const StructureFile& file, ImportReport& report)
-    : _report(report), _makesParts(file.makesParts) {
+StructureDraft::StructureDraft(const StructureFile& file, ImportText::Problems& problems)
+    : _problems(problems), _makesParts(file.makesParts) {
     using Kind = StructureRecord::Kind;
     for (const StructureRecord& record : file.records)
         if (record.kind == Kind::Part && CheckTexts(record))

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/ImportText.h"
 #include "model/StructureRecord.h"
 
 #include <cstdint>
@@ -40,7 +41,7 @@ struct DraftLink {
 // twice. Every fault is noted with its line.
 class StructureDraft {
 public:
-    StructureDraft(const StructureFile& file, ImportReport& report);
+    StructureDraft(const StructureFile& file, ImportText::Problems& problems);
 
     const std::vector<DraftPart>& Parts() const { return _parts; }
     const std::vector<DraftLink>& Links() const { return _links; }
@@ -56,10 +57,10 @@ private:
     void TellName(DraftPart& part, int line, const std::string& name);
     std::size_t NewPart(DraftPart part);
     void Note(int line, int number, const std::vector<std::string>& parameters = {}) {
-        NoteProblem(_report, line, number, parameters);
+        ImportText::Note(_problems, line, number, parameters);
     }
 
-    ImportReport& _report;
+    ImportText::Problems& _problems;
     bool _makesParts;
     std::vector<DraftPart> _parts;
     std::vector<DraftLink> _links;

@@ -1,6 +1,5 @@
+#include "model/JsonImport.h"
 #include "model/StructureReaders.h"
-
-#include <nlohmann/json.hpp>
 
 #include <iterator>
 #include <string>
@@ -8,35 +7,6 @@
 namespace trellis {
 
 namespace {
-
-// Hands the parser the text octet by octet and counts the lines that it has taken.
-class CountingIterator {
-public:
-    using iterator_category = std::input_iterator_tag;
-    using value_type = char;
-    using difference_type = std::ptrdiff_t;
-    using pointer = const char*;
-    using reference = const char&;
-
-    CountingIterator(const char* at, int* line) : _at(at), _line(line) {}
-    reference operator*() const { return *_at; }
-    CountingIterator& operator++() {
-        if (*_at++ == '\n')
-            ++*_line;
-        return *this;
-    }
-    CountingIterator operator++(int) {
-        CountingIterator before = *this;
-        ++*this;
-        return before;
-    }
-    friend bool operator==(const CountingIterator& a, const CountingIterator& b) { return a._at == b._at; }
-    friend bool operator!=(const CountingIterator& a, const CountingIterator& b) { return a._at != b._at; }
-
-private:
-    const char* _at;
-    int* _line;
-};
 
 // The keys of a part and of a link in this form; a number is taken as its digits.
 struct JsonKey {
@@ -58,10 +28,10 @@ constexpr JsonKey linkKeys[] = {{"id", &StructureRecord::linkId},
 // StructureJsonParser: takes the parser's events and keeps where it is:
 //   Start -{-> Root -"parts"/"links" [-> List -{-> Record -"attributes" {-> Attributes
 // What has no place there is noted once and passed over with all below it.
-class StructureJsonParser {
+class StructureJsonParser : public JsonImport {
 public:
-    StructureJsonParser(StructureFile& file, ImportReport& report, const int& line)
-        : _file(file), _report(report), _line(line) {}
+    StructureJsonParser(StructureFile& file, ImportText::Problems& problems)
+        : JsonImport(problems), _file(file) {}
 
     bool null() { return Scalar(nullptr); }
     bool boolean(bool) { return Misplaced(); }
@@ -119,19 +89,13 @@ public:
             _place = Place::Root;
         return true;
     }
-    bool parse_error(std::size_t, const std::string&, const nlohmann::json::exception& exception) {
-        const std::string text = exception.what();
-        const std::size_t words = text.find("syntax error");
-        NoteProblem(_report, _line, 60230, {words == std::string::npos ? text : text.substr(words)});
-        return false;
-    }
 
 private:
     enum class Place { Start, Root, List, Record, Attributes };
 
     void BeginRecord() {
         _record = {};
-        _record.line = _line;
+        _record.line = Line();
         _record.kind = _kind;
         _place = Place::Record;
         _key.clear();
@@ -143,7 +107,7 @@ private:
     }
     bool Misplaced() {
         if (_skipped == 0)
-            NoteProblem(_report, _line, 60232, {_place == Place::List || _place == Place::Start ? "" : _key});
+            Note(60232, {_place == Place::List || _place == Place::Start ? "" : _key});
         return true;
     }
     bool Number(const std::string& digits) {
@@ -169,15 +133,13 @@ private:
                 _record.*keys[i].member = text ? *text : std::string();
                 return true;
             }
-        NoteProblem(_report, _line, 60231, {_key});
+        Note(60231, {_key});
         return true;
     }
 
     static_assert(std::size(partKeys) == std::size(linkKeys));
 
     StructureFile& _file;
-    ImportReport& _report;
-    const int& _line;
     Place _place = Place::Start;
     StructureRecord::Kind _kind = StructureRecord::Kind::Part;
     StructureRecord _record;
@@ -187,14 +149,14 @@ private:
 
 } // namespace
 
-StructureFile ReadStructureJson(std::string_view text, ImportReport& report) {
+StructureFile ReadStructureJson(std::string_view text, ImportText::Problems& problems) {
     StructureFile file;
-    int line = 1;
-    StructureJsonParser parser(file, report, line);
-    nlohmann::json::sax_parse(CountingIterator(text.data(), &line),
-                              CountingIterator(text.data() + text.size(), &line), &parser);
-    if (file.records.empty() && report.problems.empty())
-        NoteProblem(report, 0, 60210);
+    StructureJsonParser parser(file, problems);
+    // What was read before the text broke off is not judged: its links may name parts that follow.
+    if (!ParseJson(text, parser))
+        file.records.clear();
+    if (file.records.empty() && problems.empty())
+        ImportText::Note(problems, 0, 60210);
     return file;
 }
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "model/StructureImport.h"
-
 #include <string>
 #include <utility>
 #include <vector>
@@ -61,8 +59,5 @@ struct StructureFile {
     std::vector<StructureRecord> records;
     bool makesParts = false; // parts that only links name are made from these
 };
-
-// Notes a problem; the parameters are those of its text.
-void NoteProblem(ImportReport& report, int line, int number, const std::vector<std::string>& parameters = {});
 
 } // namespace trellis

@@ -2,25 +2,27 @@
 
 #include "model/StructureCycles.h"
 #include "store/RowTable.h"
+#include "values/ProgressCount.h"
 
 #include <ctime>
 
 namespace trellis {
 
 StructureWriter::StructureWriter(StoreSession& session, const StructureDraft& draft, std::string user,
-                                 ImportReport& report)
+                                 ImportReport& report, const ProgressCB& progress)
     : _session(session),
       _draft(draft),
       _user(std::move(user)),
       _now(static_cast<std::int64_t>(std::time(nullptr))),
-      _report(report) {}
+      _report(report),
+      _progress(progress) {}
 
 bool StructureWriter::Check() {
     ReadStored();
     for (std::size_t i = 0; i < _ids.size(); ++i)
         if (const DraftPart& part = _draft.Parts()[i]; part.isReference && _ids[i] == 0)
-            NoteProblem(_report, part.line, 60227, {part.key});
-    NoteCycles(_session, _draft, _ids, _report);
+            ImportText::Note(_report.problems, part.line, 60227, {part.key});
+    NoteCycles(_session, _draft, _ids, _report.problems);
     return _report.problems.empty();
 }
 
@@ -88,7 +90,9 @@ PartRow Merged(PartRow row, const DraftPart& part) {
 
 void StructureWriter::WriteParts() {
     _changed.assign(_ids.size(), false);
+    ProgressCount count(_progress, "parts", _ids.size());
     for (std::size_t i = 0; i < _ids.size(); ++i) {
+        count.Step();
         const DraftPart& part = _draft.Parts()[i];
         if (part.isReference)
             continue;
@@ -146,7 +150,9 @@ void StructureWriter::WriteAttribute(std::int64_t part, const std::pair<std::str
 }
 
 void StructureWriter::WriteLinks() {
+    ProgressCount count(_progress, "links", _draft.Links().size());
     for (const DraftLink& link : _draft.Links()) {
+        count.Step();
         const auto stored = _storedLinks.find(link.uuid);
         const bool isNew = stored == _storedLinks.end();
         LinkRow row = isNew ? LinkRow() : stored->second;

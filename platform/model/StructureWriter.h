@@ -15,7 +15,7 @@ namespace trellis {
 class StructureWriter {
 public:
     StructureWriter(StoreSession& session, const StructureDraft& draft, std::string user,
-                    ImportReport& report);
+                    ImportReport& report, const ProgressCB& progress);
 
     // Notes what only the database can tell: unknown parts and cycles. False when problems stand.
     bool Check();
@@ -38,6 +38,7 @@ private:
     std::string _user;
     std::int64_t _now;
     ImportReport& _report;
+    const ProgressCB& _progress;
     std::unordered_map<std::string, PartRow> _storedParts; // by identifier
     std::unordered_map<std::string, LinkRow> _storedLinks;
     std::vector<std::int64_t> _ids; // of the draft's parts; 0 until a new one is written

@@ -1,10 +1,10 @@
 #include "model/ZOLDMInstance.h"
 
-#include "model/FailureTrace.h"
 #include "model/InstanceAccess.h"
 #include "model/InstanceState.h"
 #include "model/ObjectIdentifier.h"
 #include "site/RightTable.h"
+#include "values/FailureTrace.h"
 
 using namespace trellis;
 

@@ -4,6 +4,7 @@
 #include "service/StoredCategory.h"
 #include "service/StoredConfigItem.h"
 #include "service/StoredEffectivity.h"
+#include "values/FailureTrace.h"
 
 namespace trellis {
 
@@ -70,8 +71,8 @@ void ConfigurationMemory::Begin() {
 }
 
 void ConfigurationMemory::ReadAllParts() {
-    ZOLGYRError ignored; // the one that is asked for is asked again, and that tells
-    for (const auto& part : _workspace->Find(StoreQuery<ConfigurablePartRow>(), ignored))
+    FailureTrace trace("ConfigurationMemory::ReadAllParts"); // the one that is asked for is asked again
+    for (const auto& part : _workspace->Find(StoreQuery<ConfigurablePartRow>(), trace))
         _parts.insert_or_assign(part->Row().partUuid, part);
     End();
 }
@@ -141,13 +142,13 @@ ItemContent* ConfigurationMemory::Content(const RecordOf<ConfigItemRow>& item, Z
 }
 
 void ConfigurationMemory::Unload(const RecordOf<ConfigItemRow>& item) {
-    ZOLGYRError ignored; // a dictionary that cannot be read is not in memory either
-    if (ItemContent* content = Content(item, ignored))
+    FailureTrace trace("ConfigurationMemory::Unload"); // what cannot be read is not in memory either
+    if (ItemContent* content = Content(item, trace))
         for (const auto& record : content->AllRecords())
             _workspace->Unload(*record);
     _contents.erase(item->Id());
     if (item->GetState() != StoredObject::State::Clean)
-        _workspace->DiscardUnsaved(*item, ignored);
+        _workspace->DiscardUnsaved(*item, trace);
     End();
 }
 

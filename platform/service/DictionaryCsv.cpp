@@ -1,6 +1,6 @@
 #include "service/DictionaryRecord.h"
 
-#include "model/CsvReader.h"
+#include "model/ImportText.h"
 
 #include <algorithm>
 
@@ -9,33 +9,9 @@ namespace trellis {
 namespace {
 
 constexpr const char* recordWord = "record";
-constexpr int longField = 60214;
 
 // Where the fields of each column go; null is the column that tells the kind of the record.
 using Columns = std::vector<std::string DictionaryRecord::*>;
-
-struct FaultNumber {
-    CsvReader::Fault fault;
-    int number;
-};
-
-constexpr FaultNumber faultNumbers[] = {{CsvReader::Fault::UnclosedQuote, 60213},
-                                        {CsvReader::Fault::LongField, longField},
-                                        {CsvReader::Fault::StrayQuote, 60215}};
-
-// False when the row is faulty, which is noted.
-bool CheckRow(const CsvReader::Row& row, DictionaryFile& file) {
-    for (const FaultNumber& known : faultNumbers) {
-        if (row.fault != known.fault)
-            continue;
-        if (known.number == longField)
-            file.Note(row.line, longField, {std::to_string(CsvReader::LongestField)});
-        else
-            file.Note(row.line, known.number);
-        return false;
-    }
-    return true;
-}
 
 Columns ReadHeader(const CsvReader::Row& row, DictionaryFile& file) {
     Columns columns;
@@ -86,14 +62,14 @@ DictionaryFile ReadDictionaryCsv(std::string_view text) {
         file.Note(0, 60210);
         return file;
     }
-    if (!CheckRow(row, file))
+    if (!ImportText::CheckRow(row, file.problems))
         return file;
     const Columns columns = ReadHeader(row, file);
     // Under a header that is wrong every row would be, too.
     if (!file.problems.empty())
         return file;
     while (reader.Next(row))
-        if (CheckRow(row, file))
+        if (ImportText::CheckRow(row, file.problems))
             ReadRecord(columns, row, file);
     if (file.records.empty() && file.problems.empty())
         file.Note(0, 60210);

@@ -5,6 +5,7 @@
 #include "service/StoredCategory.h"
 #include "service/StoredEffectivity.h"
 #include "site/ZOLIQrdSCManager.h"
+#include "values/FailureTrace.h"
 
 namespace trellis {
 
@@ -17,8 +18,7 @@ constexpr int NoDictionary = 60403;
 constexpr int NoSuchObject = 20904;
 
 void SetMissing(const StoredObject& object, ZOLGYRError& error) {
-    error.Set(NoSuchObject);
-    error.Add(ZOLUnicodeString(object.DisplayName()));
+    error.Set(NoSuchObject, {ZOLUnicodeString(object.DisplayName())});
 }
 
 } // namespace
@@ -38,8 +38,8 @@ ItemContent* DictionaryEditor::Content(const RecordOf<ConfigItemRow>& dictionary
 void DictionaryEditor::GetCategories(const RecordOf<ConfigItemRow>& dictionary,
                                      ZOLListValZOLIQrdCategory_var& categories) {
     categories.RemoveAll();
-    ZOLGYRError unread;
-    ItemContent* content = dictionary ? Content(dictionary, unread) : nullptr;
+    FailureTrace trace("DictionaryEditor::GetCategories");
+    ItemContent* content = dictionary ? Content(dictionary, trace) : nullptr;
     if (!content)
         return;
     for (const auto& category : content->Categories())
@@ -89,8 +89,7 @@ ZOLIQrdEffectivity_var DictionaryEditor::AddOption(const RecordOf<ConfigItemRow>
     if (!content)
         return nullptr;
     if (stored->Record()->Row().configItem != dictionary->Id()) {
-        error.Set(ForeignCategory);
-        error.Add(stored->GetName());
+        error.Set(ForeignCategory, {stored->GetName()});
         return nullptr;
     }
     const auto record = content->Category(stored->Record()->Id());

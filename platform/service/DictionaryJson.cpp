@@ -1,49 +1,19 @@
 #include "service/DictionaryRecord.h"
 
-#include <nlohmann/json.hpp>
+#include "model/JsonImport.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace trellis {
 
 namespace {
 
-// Hands the parser the text octet by octet and counts the lines that it has taken.
-class LineCounter {
-public:
-    using iterator_category = std::input_iterator_tag;
-    using value_type = char;
-    using difference_type = std::ptrdiff_t;
-    using pointer = const char*;
-    using reference = const char&;
-
-    LineCounter(const char* at, int* line) : _at(at), _line(line) {}
-    reference operator*() const { return *_at; }
-    LineCounter& operator++() {
-        if (*_at++ == '\n')
-            ++*_line;
-        return *this;
-    }
-    LineCounter operator++(int) {
-        LineCounter before = *this;
-        ++*this;
-        return before;
-    }
-    friend bool operator==(const LineCounter& a, const LineCounter& b) { return a._at == b._at; }
-    friend bool operator!=(const LineCounter& a, const LineCounter& b) { return a._at != b._at; }
-
-private:
-    const char* _at;
-    int* _line;
-};
-
 // DictionaryJsonParser: takes the parser's events and keeps where it is:
 //   Start -{-> Root -"categories" [-> Categories -{-> Category -"options" [-> Options -{-> Option
 // What has no place there is noted once and passed over with all below it.
-class DictionaryJsonParser {
+class DictionaryJsonParser : public JsonImport {
 public:
-    DictionaryJsonParser(DictionaryFile& file, const int& line) : _file(file), _line(line) {
+    explicit DictionaryJsonParser(DictionaryFile& file) : JsonImport(file.problems), _file(file) {
         _file.tellsDefaults = true;
     }
 
@@ -76,10 +46,6 @@ public:
     }
     bool end_object() { return Leave(); }
     bool end_array() { return Leave(); }
-    bool parse_error(std::size_t, const std::string&, const nlohmann::json::exception& failure) {
-        _file.Note(_line, 60230, {failure.what()});
-        return false;
-    }
 
     // A category may tell its name after its options.
     void NameParents() {
@@ -110,12 +76,12 @@ private:
     // Inside what is passed over, the beginning was noted already.
     bool Misplaced() {
         if (_skipped == 0)
-            _file.Note(_line, MemberOf(_key) ? 60232 : 60231, {_key});
+            Note(MemberOf(_key) ? 60232 : 60231, {_key});
         return true;
     }
     void BeginRecord() {
         DictionaryRecord record;
-        record.line = _line;
+        record.line = Line();
         if (_place == Options) {
             record.kind = DictionaryRecord::Kind::Option;
             _parents.emplace_back(_file.records.size(), _category);
@@ -141,7 +107,6 @@ private:
     }
 
     DictionaryFile& _file;
-    const int& _line;
     Place _place = Start;
     int _skipped = 0; // depth inside what is passed over
     std::string _key;
@@ -153,10 +118,8 @@ private:
 
 DictionaryFile ReadDictionaryJson(std::string_view text) {
     DictionaryFile file;
-    int line = 1;
-    DictionaryJsonParser parser(file, line);
-    const bool isJson = nlohmann::json::sax_parse(LineCounter(text.data(), &line),
-                                                  LineCounter(text.data() + text.size(), &line), &parser);
+    DictionaryJsonParser parser(file);
+    const bool isJson = ParseJson(text, parser);
     parser.NameParents();
     // What was read before the text broke off is not judged.
     if (!isJson)

@@ -1,6 +1,7 @@
 #include "service/DictionaryPlan.h"
 
 #include "service/ItemEditor.h"
+#include "values/ProgressCount.h"
 
 namespace trellis {
 
@@ -117,13 +118,15 @@ bool DictionaryPlan::Fits(ZOLQRDCfgManager& manager, const ZOLIQrdConfigItem_var
 }
 
 void DictionaryPlan::Apply(ZOLQRDCfgManager& manager, const ZOLIQrdConfigItem_var& dictionary,
-                           DictionaryImportReport& report, ZOLGYRError& error) {
+                           DictionaryImportReport& report, const ProgressCB& progress, ZOLGYRError& error) {
+    ProgressCount count(progress, "categories and options", _file.records.size());
     for (const Kind kind : {Kind::Category, Kind::Option})
         for (const DictionaryRecord& record : _file.records) {
             if (error.GetCode() != 0)
                 return;
             if (record.kind != kind)
                 continue;
+            count.Step();
             if (kind == Kind::Category)
                 ApplyCategory(manager, dictionary, record, report, error);
             else

@@ -20,7 +20,7 @@ public:
     bool Fits(ZOLQRDCfgManager& manager, const ZOLIQrdConfigItem_var& dictionary);
     // Carries it out, unsaved, and counts. Stops at the first code.
     void Apply(ZOLQRDCfgManager& manager, const ZOLIQrdConfigItem_var& dictionary,
-               DictionaryImportReport& report, ZOLGYRError& error);
+               DictionaryImportReport& report, const ProgressCB& progress, ZOLGYRError& error);
 
 private:
     using Records = std::unordered_map<std::string, const DictionaryRecord*>;

@@ -37,9 +37,7 @@ bool OwnsCategory(ConfigurationMemory& memory, const RecordOf<ConfigItemRow>& di
         return false;
     if (IsCorporate(dictionary) || BelongsToUser(category))
         return true;
-    error.Set(OtherOwner);
-    error.Add(ZOLUnicodeString(category.name));
-    error.Add(ZOLUnicodeString(category.owner));
+    error.Set(OtherOwner, {ZOLUnicodeString(category.name), ZOLUnicodeString(category.owner)});
     return false;
 }
 

@@ -93,14 +93,12 @@ EffectivityRow RowOf(const ZOLQRDCfgEffectivity& term) {
 bool IsDictionaryName(const ZOLUnicodeString& name, ZOLGYRError& error) {
     if (!name.IsEmpty() && name.GetLengthInChar() <= LongestName)
         return true;
-    error.Set(BadName);
-    error.Add(name);
+    error.Set(BadName, {name});
     return false;
 }
 
 void RefuseDead(const StoredObject& object, ZOLGYRError& error) {
-    error.Set(DeadObject);
-    error.Add(ZOLUnicodeString(object.DisplayName()));
+    error.Set(DeadObject, {ZOLUnicodeString(object.DisplayName())});
 }
 
 RecordOf<CategoryRow> AddCategoryRow(ConfigurationMemory& memory, ItemContent& content, CategoryRow row) {

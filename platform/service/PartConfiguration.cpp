@@ -3,6 +3,7 @@
 #include "model/ZOLDMInstance.h"
 #include "service/ItemEditor.h"
 #include "site/RightTable.h"
+#include "values/FailureTrace.h"
 
 namespace trellis {
 
@@ -12,8 +13,7 @@ constexpr int NotConfigurable = 20265;
 constexpr int NoSuchObject = 20904;
 
 void SetMissing(const std::string& name, ZOLGYRError& error) {
-    error.Set(NoSuchObject);
-    error.Add(ZOLUnicodeString(name));
+    error.Set(NoSuchObject, {ZOLUnicodeString(name)});
 }
 
 // Whether a part has the identifier; a link has one, too.
@@ -39,8 +39,8 @@ RecordOf<ConfigurablePartRow> PartConfiguration::Find(const std::string& uuid, Z
 }
 
 RecordOf<ConfigItemRow> PartConfiguration::FindItem(const std::string& uuid, const char* status) {
-    ZOLGYRError unread;
-    return _memory.FindPart(uuid, unread) ? _memory.FindItem(uuid, status, unread) : nullptr;
+    FailureTrace trace("PartConfiguration::FindItem");
+    return _memory.FindPart(uuid, trace) ? _memory.FindItem(uuid, status, trace) : nullptr;
 }
 
 bool PartConfiguration::Permits(const char* function, const std::string& uuid, ZOLGYRError& error) {

@@ -3,6 +3,7 @@
 #include "service/DictionaryRights.h"
 #include "service/ItemEditor.h"
 #include "service/StoredEffectivity.h"
+#include "values/FailureTrace.h"
 
 namespace trellis {
 
@@ -65,9 +66,9 @@ void StoredCategory::RemoveOption(const ZOLIQrdEffectivity_var& option, ZOLGYREr
 
 void StoredCategory::GetOptions(ZOLListValZOLIQrdEffectivity_var& options) const {
     options.RemoveAll();
-    ZOLGYRError unread;
+    FailureTrace trace("ZOLIQrdCategory::GetOptions");
     const std::shared_ptr<ConfigurationMemory> memory = Memory();
-    ItemContent* content = memory ? memory->Content(_item, unread) : nullptr;
+    ItemContent* content = memory ? memory->Content(_item, trace) : nullptr;
     if (!content)
         return;
     for (const auto& option : content->OptionsOf(Record()->Id()))
@@ -84,9 +85,9 @@ std::vector<std::int64_t> StoredCategory::DefaultIds(ItemContent& content) const
 
 void StoredCategory::GetDefaultOptions(ZOLListValZOLIQrdEffectivity_var& options) const {
     options.RemoveAll();
-    ZOLGYRError unread;
+    FailureTrace trace("ZOLIQrdCategory::GetDefaultOptions");
     const std::shared_ptr<ConfigurationMemory> memory = Memory();
-    ItemContent* content = memory ? memory->Content(_item, unread) : nullptr;
+    ItemContent* content = memory ? memory->Content(_item, trace) : nullptr;
     if (!content)
         return;
     for (const std::int64_t id : DefaultIds(*content))

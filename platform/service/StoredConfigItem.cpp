@@ -4,6 +4,7 @@
 #include "service/ItemEditor.h"
 #include "service/StoredEffectivity.h"
 #include "site/RightTable.h"
+#include "values/FailureTrace.h"
 
 namespace trellis {
 
@@ -19,9 +20,9 @@ bool StoredConfigItem::MayChange(ConfigurationMemory& memory, ZOLGYRError& error
 
 void StoredConfigItem::GetEffectivities(ZOLListValZOLIQrdEffectivity_var& effectivities) const {
     effectivities.RemoveAll();
-    ZOLGYRError unread;
+    FailureTrace trace("ZOLIQrdConfigItem::GetEffectivities");
     const std::shared_ptr<ConfigurationMemory> memory = Memory();
-    ItemContent* content = memory ? memory->Content(Record(), unread) : nullptr;
+    ItemContent* content = memory ? memory->Content(Record(), trace) : nullptr;
     if (!content)
         return;
     for (const auto& effectivity : content->Effectivities())

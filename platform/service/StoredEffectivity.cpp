@@ -2,6 +2,7 @@
 
 #include "service/DictionaryRights.h"
 #include "service/ItemEditor.h"
+#include "values/FailureTrace.h"
 
 #include <algorithm>
 
@@ -56,9 +57,9 @@ void StoredEffectivity::SetCategory(const ZOLUnicodeString& category, ZOLGYRErro
 
 void StoredEffectivity::GetPackOptions(ZOLListValZOLUnicodeString& options) const {
     options.RemoveAll();
-    ZOLGYRError unread;
+    FailureTrace trace("ZOLIQrdEffectivity::GetPackOptions");
     const std::shared_ptr<ConfigurationMemory> memory = Memory();
-    ItemContent* content = memory ? memory->Content(_item, unread) : nullptr;
+    ItemContent* content = memory ? memory->Content(_item, trace) : nullptr;
     if (!content)
         return;
     for (const auto& option : content->PackOptionsOf(Record()->Id()))
@@ -101,9 +102,9 @@ ZOLQRDCfgEffectivity StoredEffectivity::GetTerm() const {
     term.SetMilestoneStart(row.startProgram, row.startMilestone, Number(row.startOffset));
     term.SetMilestoneEnd(row.endProgram, row.endMilestone, Number(row.endOffset));
 
-    ZOLGYRError unread;
+    FailureTrace trace("ZOLIQrdEffectivity::GetTerm");
     const std::shared_ptr<ConfigurationMemory> memory = Memory();
-    ItemContent* content = memory ? memory->Content(_item, unread) : nullptr;
+    ItemContent* content = memory ? memory->Content(_item, trace) : nullptr;
     if (!content)
         return term;
     ZOLListValZOLUnicodeString names;

@@ -7,6 +7,7 @@
 #include "service/PartConfiguration.h"
 #include "service/StoredCategory.h"
 #include "site/ZOLIQrdSCManager.h"
+#include "values/FailureTrace.h"
 
 using trellis::CategoryRow;
 using trellis::ConfigItemRow;
@@ -118,36 +119,36 @@ int ZOLQRDCfgBase::GetOptionsFromProductDictionary(const ZOLDMInstance& part,
 
 void ZOLQRDCfgBase::GetOptByName(const ZOLUnicodeString& name, ZOLListValZOLIQrdEffectivity_var& options) {
     options.RemoveAll();
-    ZOLGYRError unread;
-    const auto memory = ConfigurationMemory::Current(unread);
+    trellis::FailureTrace trace("ZOLQRDCfgBase::GetOptByName");
+    const auto memory = ConfigurationMemory::Current(trace);
     if (!memory)
         return;
     const auto found = memory->Store().Find(
-        StoreQuery<EffectivityRow>().Where(&EffectivityRow::optionName, name.Bytes()), unread);
+        StoreQuery<EffectivityRow>().Where(&EffectivityRow::optionName, name.Bytes()), trace);
     for (const auto& option : found)
-        if (const auto item = memory->ItemOfId(option->Row().configItem, unread))
+        if (const auto item = memory->ItemOfId(option->Row().configItem, trace))
             options.Append(memory->Handle(option, item));
 }
 
 void ZOLQRDCfgBase::GetCategByName(const ZOLUnicodeString& name, ZOLListValZOLIQrdCategory_var& categories) {
     categories.RemoveAll();
-    ZOLGYRError unread;
-    const auto memory = ConfigurationMemory::Current(unread);
+    trellis::FailureTrace trace("ZOLQRDCfgBase::GetCategByName");
+    const auto memory = ConfigurationMemory::Current(trace);
     if (!memory)
         return;
     const auto found =
-        memory->Store().Find(StoreQuery<CategoryRow>().Where(&CategoryRow::name, name.Bytes()), unread);
+        memory->Store().Find(StoreQuery<CategoryRow>().Where(&CategoryRow::name, name.Bytes()), trace);
     for (const auto& category : found)
-        if (const auto item = memory->ItemOfId(category->Row().configItem, unread))
+        if (const auto item = memory->ItemOfId(category->Row().configItem, trace))
             categories.Append(memory->Handle(category, item));
 }
 
 void ZOLQRDCfgBase::GetAllowedEffectivityType(const ZOLQRDConfigurableObject& object, long& mask) {
     mask = 0;
-    ZOLGYRError unread;
-    const auto memory = ConfigurationMemory::Current(unread);
+    trellis::FailureTrace trace("ZOLQRDCfgBase::GetAllowedEffectivityType");
+    const auto memory = ConfigurationMemory::Current(trace);
     const auto part =
-        memory ? memory->FindPart(trellis::ObjectIdentifier(object.GetObject()).Text(), unread) : nullptr;
+        memory ? memory->FindPart(trellis::ObjectIdentifier(object.GetObject()).Text(), trace) : nullptr;
     if (part)
         mask = static_cast<long>(part->Row().typeMask);
 }

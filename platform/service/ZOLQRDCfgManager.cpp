@@ -5,7 +5,7 @@
 #include "service/DictionaryEditor.h"
 #include "service/PartConfiguration.h"
 #include "service/StoredConfigItem.h"
-#include "site/LoggedInUser.h"
+#include "values/FailureTrace.h"
 
 using trellis::ConfigItemRow;
 using trellis::ConfigurationMemory;
@@ -13,7 +13,6 @@ using trellis::DictionaryEditor;
 using trellis::PartConfiguration;
 using trellis::RecordOf;
 using trellis::StoredObject;
-using trellis::UnsavedChange;
 
 namespace {
 
@@ -31,37 +30,6 @@ RecordOf<ConfigItemRow> RecordOfItem(const ZOLIQrdConfigItem_var& item) {
     return stored ? stored->Record() : nullptr;
 }
 
-// What people call the kinds of objects, in the order of RowKind.
-const char* KindName(trellis::RowKind kind) {
-    static constexpr const char* names[] = {"part",
-                                            "attribute",
-                                            "link",
-                                            "configurable part",
-                                            "config item",
-                                            "category",
-                                            "option",
-                                            "option of a package",
-                                            "attribute",
-                                            "default option",
-                                            "effectivity of a link",
-                                            "person",
-                                            "role",
-                                            "organization",
-                                            "site",
-                                            "person above",
-                                            "right",
-                                            "administrator value",
-                                            "event"};
-    static_assert(std::size(names) == static_cast<std::size_t>(trellis::RowKind::Count));
-    return names[static_cast<std::size_t>(kind)];
-}
-
-UnsavedChange::Kind ChangeKind(StoredObject::State state) {
-    if (state == StoredObject::State::Removed)
-        return UnsavedChange::Kind::Removed;
-    return state == StoredObject::State::New ? UnsavedChange::Kind::Added : UnsavedChange::Kind::Changed;
-}
-
 } // namespace
 
 ZOLQRDCfgManager::ZOLQRDCfgManager(std::shared_ptr<ConfigurationMemory> memory)
@@ -75,23 +43,10 @@ ZOLQRDCfgManager* ZOLQRDCfgManager::CurrentCfgManager(ZOLGYRError& error) {
 
 void ZOLQRDCfgManager::Save(ZOLGYRError& error) {
     ZOLGYRError saving;
-    _memory->Store().SetUser(trellis::LoggedInUser());
     _memory->Store().Save(saving);
     _memory->End();
     if (error.GetCode() == 0 && saving.GetCode() != 0)
         error = saving;
-}
-
-void ZOLQRDCfgManager::GetUnsavedChanges(std::vector<UnsavedChange>& changes) const {
-    changes.clear();
-    for (const std::shared_ptr<StoredObject>& object : _memory->Store().Unsaved())
-        changes.push_back({ChangeKind(object->GetState()), ZOLUnicodeString(object->DisplayName()),
-                           KindName(object->Kind()), object->IsStale()});
-}
-
-void ZOLQRDCfgManager::DiscardUnsaved(ZOLGYRError& error) {
-    _memory->Store().DiscardUnsaved(error);
-    _memory->Begin();
 }
 
 void ZOLQRDCfgManager::DiscardUnsaved(const ZOLIQrdConfigItem_var& item, ZOLGYRError& error) {
@@ -159,8 +114,8 @@ void ZOLQRDCfgManager::GetCategoriesFromDictionary(const ZOLIQrdConfigItem_var& 
 
 void ZOLQRDCfgManager::GetOptionsFromDictionary(const ZOLIQrdConfigItem_var& dictionary,
                                                 ZOLListValZOLQRDCfgEffectivity& options) const {
-    ZOLGYRError unread;
-    DictionaryEditor(*_memory).GetOptions(RecordOfItem(dictionary), options, unread);
+    trellis::FailureTrace trace("ZOLQRDCfgManager::GetOptionsFromDictionary");
+    DictionaryEditor(*_memory).GetOptions(RecordOfItem(dictionary), options, trace);
 }
 
 ZOLIQrdCategory_var ZOLQRDCfgManager::AddCategoryToDictionary(const ZOLIQrdConfigItem_var& dictionary,

@@ -2,12 +2,13 @@
 
 #include "model/ObjectIdentifier.h"
 #include "service/PartConfiguration.h"
+#include "values/FailureTrace.h"
 
 namespace {
 
 ZOLIQrdConfigItem_var ItemOf(const _SEQUENCE_octet& part, const char* status) {
-    ZOLGYRError error;
-    const auto memory = part.length() > 0 ? trellis::ConfigurationMemory::Current(error) : nullptr;
+    trellis::FailureTrace trace("ZOLQRDConfigurableObject::ItemOf");
+    const auto memory = part.length() > 0 ? trellis::ConfigurationMemory::Current(trace) : nullptr;
     if (!memory)
         return nullptr;
     return memory->Handle(

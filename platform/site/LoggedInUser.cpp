@@ -1,6 +1,5 @@
 #include "site/LoggedInUser.h"
 
-#include "store/Workspace.h"
 #include "values/Settings.h"
 
 #include <pwd.h>
@@ -31,8 +30,6 @@ std::string LoggedInUser() {
 
 void SetLoggedInUser(const std::string& name) {
     ChosenUser = name;
-    if (Workspace::Current())
-        Workspace::Current()->SetUser(LoggedInUser());
 }
 
 } // namespace trellis

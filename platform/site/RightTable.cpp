@@ -58,8 +58,7 @@ bool RightTable::Permits(const ZOLUnicodeString& function, const ZOLUnicodeStrin
     if (guarded && guarded->privilegeLimit != GuardedFunction::NoOverride && person &&
         person->privilege >= guarded->privilegeLimit)
         return true;
-    error.Set(refusal);
-    error.Add(user);
+    error.Set(refusal, {user});
     return false;
 }
 

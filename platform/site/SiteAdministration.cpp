@@ -4,8 +4,10 @@
 #include "site/RightTable.h"
 #include "site/SiteDirectory.h"
 #include "store/Workspace.h"
+#include "values/FailureTrace.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace trellis {
 
@@ -22,10 +24,8 @@ constexpr int RoleInUse = 60508;
 constexpr int LongestName = 80;
 constexpr std::int64_t AdministratorPrivilege = 10;
 
-bool Fail(int code, std::initializer_list<ZOLUnicodeString> parameters, ZOLGYRError& error) {
-    error.Set(code);
-    for (const ZOLUnicodeString& parameter : parameters)
-        error.Add(parameter);
+bool Fail(int code, std::vector<ZOLUnicodeString> parameters, ZOLGYRError& error) {
+    error.Set(code, std::move(parameters));
     return false;
 }
 
@@ -35,7 +35,9 @@ bool MayAdministrate(ZOLGYRError& error) {
     const SiteDirectory& directory = SiteDirectory::Current();
     const auto isAdministrator = [](const PersonRow& row) { return row.privilege >= AdministratorPrivilege; };
     const PersonRow* person = directory.FindPerson(LoggedInUser());
-    if ((person && isAdministrator(*person)) || std::ranges::none_of(directory.Persons(), isAdministrator))
+    if (person && isAdministrator(*person))
+        return true;
+    if (!directory.IsUnread() && std::ranges::none_of(directory.Persons(), isAdministrator))
         return true;
     return Fail(Refused, {LoggedInUser()}, error);
 }
@@ -91,12 +93,25 @@ bool Remove(const RecordOf<Row>& record, ZOLGYRError& error) {
     return removal.GetCode() == 0;
 }
 
-RecordOf<RightRow> FindRight(const RightEntry& right, std::int64_t role, ZOLGYRError& error) {
-    return Workspace::Current()->FindFirst(StoreQuery<RightRow>()
-                                               .Where(&RightRow::function, right.function.Bytes())
-                                               .Where(&RightRow::role, role)
-                                               .Where(&RightRow::site, right.site.Bytes()),
-                                           error);
+// Looks for the record that a change is about; null when there is none yet. False when the store cannot tell.
+template <class Row>
+bool Look(const StoreQuery<Row>& query, RecordOf<Row>& found, ZOLGYRError& error) {
+    ZOLGYRError failure;
+    found = Workspace::Current()->FindFirst(query, failure);
+    if (failure.GetCode() != 0)
+        error = failure;
+    return failure.GetCode() == 0;
+}
+
+StoreQuery<RightRow> RightsLike(const RightEntry& right, std::int64_t role) {
+    return StoreQuery<RightRow>()
+        .Where(&RightRow::function, right.function.Bytes())
+        .Where(&RightRow::role, role)
+        .Where(&RightRow::site, right.site.Bytes());
+}
+
+StoreQuery<PersonRow> PersonsNamed(const ZOLUnicodeString& name) {
+    return StoreQuery<PersonRow>().Where(&PersonRow::name, name.Bytes());
 }
 
 bool FindRightParts(const RightEntry& right, std::int64_t& role, ZOLGYRError& error) {
@@ -154,10 +169,18 @@ bool SiteAdministration::RemoveRole(const ZOLUnicodeString& name, const ZOLUnico
         if (person.role == id)
             return Fail(RoleInUse, {name, person.name}, error);
     Workspace& workspace = *Workspace::Current();
-    for (const auto& right : workspace.Find(StoreQuery<RightRow>().Where(&RightRow::role, id), error))
+    ZOLGYRError failure;
+    const auto rights = workspace.Find(StoreQuery<RightRow>().Where(&RightRow::role, id), failure);
+    const auto role = workspace.Get<RoleRow>(id, failure);
+    if (failure.GetCode() != 0) {
+        error = failure;
+        return false;
+    }
+    if (!role) // another process took it away meanwhile
+        return Fail(NotFound, {"role", name}, error);
+    for (const auto& right : rights)
         Remove(right, error);
-    const auto role = workspace.Get<RoleRow>(id, error);
-    return role && Remove(role, error);
+    return Remove(role, error);
 }
 
 bool SiteAdministration::SetPerson(const PersonEntry& person, ZOLGYRError& error) {
@@ -169,8 +192,9 @@ bool SiteAdministration::SetPerson(const PersonEntry& person, ZOLGYRError& error
     row.firstName = person.firstName.Bytes();
     row.lastName = person.lastName.Bytes();
     row.privilege = person.privilege;
-    const auto known =
-        Workspace::Current()->FindFirst(StoreQuery<PersonRow>().Where(&PersonRow::name, row.name), error);
+    RecordOf<PersonRow> known;
+    if (!Look(PersonsNamed(person.name), known, error))
+        return false;
     if (!known)
         return Create(row);
     SiteDirectory::Forget();
@@ -181,10 +205,9 @@ bool SiteAdministration::SetPerson(const PersonEntry& person, ZOLGYRError& error
 }
 
 bool SiteAdministration::RemovePerson(const ZOLUnicodeString& name, ZOLGYRError& error) {
-    if (!MayAdministrate(error))
+    RecordOf<PersonRow> known;
+    if (!MayAdministrate(error) || !Look(PersonsNamed(name), known, error))
         return false;
-    const auto known =
-        Workspace::Current()->FindFirst(StoreQuery<PersonRow>().Where(&PersonRow::name, name.Bytes()), error);
     return known ? Remove(known, error) : Fail(NotFound, {"person", name}, error);
 }
 
@@ -194,7 +217,9 @@ bool SiteAdministration::SetRight(const RightEntry& right, ZOLGYRError& error) {
         return false;
     if (!right.site.IsEmpty() && !SiteDirectory::Current().FindSite(right.site.Bytes()))
         return Fail(NotFound, {"site", right.site}, error);
-    const auto known = FindRight(right, row.role, error);
+    RecordOf<RightRow> known;
+    if (!Look(RightsLike(right, row.role), known, error))
+        return false;
     SiteDirectory::Forget();
     if (known)
         return known->Change(&RightRow::allowed, right.allowed ? 1 : 0, error);
@@ -206,9 +231,10 @@ bool SiteAdministration::SetRight(const RightEntry& right, ZOLGYRError& error) {
 
 bool SiteAdministration::RemoveRight(const RightEntry& right, ZOLGYRError& error) {
     std::int64_t role = 0;
-    if (!MayAdministrate(error) || !FindRightParts(right, role, error))
+    RecordOf<RightRow> known;
+    if (!MayAdministrate(error) || !FindRightParts(right, role, error) ||
+        !Look(RightsLike(right, role), known, error))
         return false;
-    const auto known = FindRight(right, role, error);
     return known ? Remove(known, error) : Fail(NotFound, {"right", right.function}, error);
 }
 
@@ -220,10 +246,12 @@ bool SiteAdministration::SetAdministratorValue(const ZOLUnicodeString& name, con
     row.group = group.Bytes();
     row.name = name.Bytes();
     row.value = value.Bytes();
-    const auto known = Workspace::Current()->FindFirst(StoreQuery<AdministratorValueRow>()
-                                                           .Where(&AdministratorValueRow::group, row.group)
-                                                           .Where(&AdministratorValueRow::name, row.name),
-                                                       error);
+    const auto query = StoreQuery<AdministratorValueRow>()
+                           .Where(&AdministratorValueRow::group, row.group)
+                           .Where(&AdministratorValueRow::name, row.name);
+    RecordOf<AdministratorValueRow> known;
+    if (!Look(query, known, error))
+        return false;
     if (known && value.IsEmpty())
         return Remove(known, error);
     if (known)
@@ -266,8 +294,8 @@ std::vector<AdministratorValueEntry> SiteAdministration::AdministratorValues() {
     std::vector<AdministratorValueEntry> values;
     if (!Workspace::Current())
         return values;
-    ZOLGYRError error;
-    for (const auto& value : Workspace::Current()->Find(StoreQuery<AdministratorValueRow>(), error))
+    FailureTrace trace("SiteAdministration::AdministratorValues");
+    for (const auto& value : Workspace::Current()->Find(StoreQuery<AdministratorValueRow>(), trace))
         values.push_back({value->Row().name, value->Row().group, value->Row().value});
     return values;
 }

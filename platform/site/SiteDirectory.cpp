@@ -1,5 +1,7 @@
 #include "site/SiteDirectory.h"
 
+#include "values/FailureTrace.h"
+
 #include <algorithm>
 
 namespace trellis {
@@ -39,9 +41,9 @@ const SiteDirectory& SiteDirectory::Current() {
         return directory;
 
     SiteDirectory fresh;
-    ZOLGYRError error;
-    fresh.Read(error);
-    const bool isRead = error.GetCode() == 0;
+    FailureTrace trace("SiteDirectory::Read");
+    fresh.Read(trace);
+    const bool isRead = trace.GetCode() == 0;
     // A store that cannot be read leaves what was known, and of a database that was never read nobody has any
     // right.
     if (isRead || !isSame) {

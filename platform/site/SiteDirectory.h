@@ -25,6 +25,7 @@ public:
 
     // Also true while the database cannot be read: then nobody is known to it.
     bool KnowsPersons() const { return _isUnread || !_persons.empty(); }
+    bool IsUnread() const { return _isUnread; }
     const PersonRow* FindPerson(const std::string& name) const;
     const RoleRow* FindRole(std::int64_t id) const;
     // By name within an organization; organization 0 for a role outside any.

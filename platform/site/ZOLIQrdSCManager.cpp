@@ -53,10 +53,9 @@ bool ZOLIQrdSCManager::CheckLogin(ZOLGYRError& error) const {
     if (directory.FindPerson(user))
         return true;
     if (directory.KnowsPersons())
-        error.Set(UnknownUser);
+        error.Set(UnknownUser, {user});
     else
-        error.Set(NoPersons, Notice);
-    error.Add(user);
+        error.Set(NoPersons, Notice, {user});
     return false;
 }
 

@@ -29,6 +29,28 @@ bool Exists(const std::string& path) {
     return std::filesystem::exists(path, ignored);
 }
 
+// What the engine says went wrong, without the extended part.
+int ResultOf(const soci::soci_error& error) {
+    const auto* sqlite = dynamic_cast<const soci::sqlite3_soci_error*>(&error);
+    return sqlite ? sqlite->result() & 0xff : SQLITE_ERROR;
+}
+
+// The reason in the words of the engine, without what the client library puts before them.
+std::string ReasonOf(const soci::soci_error& error, bool reads) {
+    const int result = ResultOf(error);
+    if (result == SQLITE_BUSY || result == SQLITE_LOCKED)
+        return "another process is writing to it";
+    if (reads && result == SQLITE_READONLY)
+        return "its folder is read only, and readers have to write there, too";
+    std::string reason = error.get_error_message();
+    for (const std::string_view before : {"sqlite3_statement_backend::", "Cannot establish connection"}) {
+        const std::size_t words = reason.find_first_of(".:", before.size());
+        if (reason.starts_with(before) && words != std::string::npos && words + 2 <= reason.size())
+            reason.erase(0, words + 2);
+    }
+    return reason;
+}
+
 std::string NewLeadingString() {
     constexpr char letters[] = "abcdefghijklmnopqrstuvwxyz0123456789";
     std::random_device random;
@@ -43,11 +65,13 @@ std::string NewLeadingString() {
 
 [[noreturn]] void ThrowStoreFailure(const soci::soci_error& error, const std::string& name,
                                     const std::string& sql) {
-    const auto* sqlite = dynamic_cast<const soci::sqlite3_soci_error*>(&error);
-    const int result = sqlite ? sqlite->result() & 0xff : SQLITE_ERROR;
+    const int result = ResultOf(error);
     const bool unreadable = result == SQLITE_CANTOPEN || result == SQLITE_NOTADB || result == SQLITE_CORRUPT;
-    const int code = unreadable || sql.starts_with("SELECT") ? 20901 : 20903;
-    throw StoreFailure(code, {name, error.get_error_message()});
+    const bool reads = sql.starts_with("SELECT");
+    const int code = unreadable || reads ? 20901 : 20903;
+    throw StoreFailure(code, {name, ReasonOf(error, reads)},
+                       code == 20901 || result == SQLITE_READONLY ? StoreFailure::Outlook::Pointless
+                                                                  : StoreFailure::Outlook::MayBeRepeated);
 }
 
 StoreSession::StoreSession(const std::string& url)
@@ -60,7 +84,7 @@ StoreSession::StoreSession(const std::string& url)
              {"PRAGMA journal_mode=WAL", "PRAGMA synchronous=FULL", "PRAGMA foreign_keys=ON"})
             _connection->sql << pragma;
     } catch (const soci::soci_error& error) {
-        throw StoreFailure(20901, {_path, error.get_error_message()});
+        throw StoreFailure(20901, {_path, ReasonOf(error, true)});
     }
 }
 

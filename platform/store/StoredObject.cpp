@@ -17,8 +17,7 @@ StoredObject::State StoredObject::GetState() const {
 bool StoredObject::MayChange(ZOLGYRError& error) const {
     if (IsAlive())
         return true;
-    error.Set(60301);
-    error.Add(ZOLUnicodeString(DisplayName()));
+    error.Set(60301, {ZOLUnicodeString(DisplayName())});
     return false;
 }
 

@@ -16,7 +16,7 @@ std::unique_ptr<Workspace>& CurrentPlace() {
 
 } // namespace
 
-Workspace::Workspace(std::unique_ptr<StoreSession> session, std::string user)
+Workspace::Workspace(std::unique_ptr<StoreSession> session, UserSource user)
     : _session(std::move(session)), _user(std::move(user)) {
     ++_changeCount;
 }
@@ -122,7 +122,7 @@ bool Workspace::Write(bool withModel, ZOLGYRError& error) {
     std::vector<std::shared_ptr<StoredObject>> objects = withModel ? Unsaved() : _service.All();
     if (objects.empty() && _events.empty())
         return true;
-    const SaveStamp stamp{_user, static_cast<std::int64_t>(std::time(nullptr))};
+    const SaveStamp stamp{_user(), static_cast<std::int64_t>(std::time(nullptr))};
     std::vector<EventRow> events = _events;
     for (EventRow& event : events) {
         event.version = 1;
@@ -170,7 +170,7 @@ void Workspace::QueueEvent(std::string instanceUuid, int number) {
     EventRow event;
     event.id = _session->NewRowId();
     event.published = static_cast<std::int64_t>(std::time(nullptr));
-    event.publisher = _user;
+    event.publisher = _user();
     event.instanceUuid = std::move(instanceUuid);
     event.number = number;
     _events.push_back(std::move(event));

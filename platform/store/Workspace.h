@@ -20,15 +20,21 @@
 namespace trellis {
 
 // Workspace: an open database as the process sees it. It owns the session, the identity map, and two sets of
-// unsaved changes over that map: those of the service and those made directly on the model. Nobody else opens a
-// transaction. Queries answer from memory over store: the rows found by SQL, minus those changed or removed in
-// memory, plus those in memory that match.
+// unsaved changes over that map: those of the service and those made directly on the model. Nobody else opens
+// a transaction. Queries answer from memory over store: the rows found by SQL, minus those changed or removed
+// in memory, plus those in memory that match.
 //
-// Operations with a carrier set the numbers of StoreFailure, and only when no number stands; they never throw.
+// Operations with a carrier set the numbers of StoreFailure, and only when no number stands; they never
+// throw.
 class Workspace {
 public:
-    // `user` is written as last modifier by saves.
-    Workspace(std::unique_ptr<StoreSession> session, std::string user);
+    // Who is working: asked each time a name is written, as last modifier by saves, as publisher of events.
+    using UserSource = std::function<std::string()>;
+
+    Workspace(std::unique_ptr<StoreSession> session, UserSource user);
+    // For one that is used by the same user all along.
+    Workspace(std::unique_ptr<StoreSession> session, const std::string& user)
+        : Workspace(std::move(session), [user] { return user; }) {}
     // All objects become gone; unsaved changes are lost.
     ~Workspace();
     Workspace(const Workspace&) = delete;
@@ -39,13 +45,13 @@ public:
     static void MakeCurrent(std::unique_ptr<Workspace> workspace);
 
     StoreSession& Session() { return *_session; }
-    const std::string& User() const { return _user; }
-    void SetUser(std::string user) { _user = std::move(user); }
-    // Grows whenever anything that an object or query answers may have changed in this process, and never repeats,
-    // also from one database to the next: for caches above. Never 0.
+    std::string User() const { return _user(); }
+    // Grows whenever anything that an object or query answers may have changed in this process, and never
+    // repeats, also from one database to the next: for caches above. Never 0.
     std::int64_t ChangeCount() const { return _changeCount; }
 
-    // A new object with this content; id, version and stamp are set here. It is unsaved, in the scope of its kind.
+    // A new object with this content; id, version and stamp are set here. It is unsaved, in the scope of its
+    // kind.
     template <class Row>
     RecordOf<Row> Create(Row row);
     // The object of that id, or null when there is none or it was removed; on a failure null and a code.
@@ -61,14 +67,16 @@ public:
     template <class Row>
     RecordOf<Row> FindFirst(const StoreQuery<Row>& query, ZOLGYRError& error);
 
-    // Marks as removed, to be deleted by the next save of the scope: that of its kind, or the given one. A new object is
-    // simply forgotten when the scope is its own. Removing twice does nothing; a gone object sets 60301.
+    // Marks as removed, to be deleted by the next save of the scope: that of its kind, or the given one. A
+    // new object is simply forgotten when the scope is its own. Removing twice does nothing; a gone object
+    // sets 60301.
     void Remove(StoredObject& object, ZOLGYRError& error);
     void Remove(StoredObject& object, ChangeHome by, ZOLGYRError& error);
 
     // Forgets an object and its unsaved changes; the next access reads a new one, equal to it.
     void Unload(StoredObject& object);
-    // Brings an object, or all, back to what is stored. A new object, and one that another user removed, is gone.
+    // Brings an object, or all, back to what is stored. A new object, and one that another user removed, is
+    // gone.
     void DiscardUnsaved(StoredObject& object, ZOLGYRError& error);
     void DiscardUnsaved(ZOLGYRError& error);
 
@@ -76,10 +84,10 @@ public:
     std::vector<std::shared_ptr<StoredObject>> Unsaved() const;
     bool HasUnsaved() const { return !_service.IsEmpty() || !_model.IsEmpty(); }
 
-    // Writes the unsaved changes of the service in one transaction: deletes, then inserts, then updates; unique
-    // keys are judged at the end. Success bumps versions, stores the queued events and delivers them. A failure
-    // writes nothing and changes nothing in memory but the stale marks; it sets 20902 (first stale object, other
-    // user), 20904 (first object that is gone), 20903 or 20901. True when done.
+    // Writes the unsaved changes of the service in one transaction: deletes, then inserts, then updates;
+    // unique keys are judged at the end. Success bumps versions, stores the queued events and delivers them.
+    // A failure writes nothing and changes nothing in memory but the stale marks; it sets 20902 (first stale
+    // object, other user), 20904 (first object that is gone), 20903 or 20901. True when done.
     bool Save(ZOLGYRError& error);
     // The same for both scopes in one transaction.
     bool Commit(ZOLGYRError& error);
@@ -92,8 +100,8 @@ public:
     int AddEventListener(EventListener listener);
     void RemoveEventListener(int listener);
 
-    // Runs a work that writes rows past the objects, in one transaction; then refreshes all clean objects of the
-    // model. An exception StoreFailure of the work, or its answer false, writes nothing. True when done.
+    // Runs a work that writes rows past the objects, in one transaction; then refreshes all clean objects of
+    // the model. An exception StoreFailure of the work, or its answer false, writes nothing. True when done.
     bool RunBulk(const std::function<bool(StoreSession&)>& work, ZOLGYRError& error);
 
 private:
@@ -108,7 +116,7 @@ private:
     void Deliver(const std::vector<EventRow>& events);
 
     std::unique_ptr<StoreSession> _session;
-    std::string _user;
+    UserSource _user;
     IdentityMap _objects;
     ChangeScope _service;
     ChangeScope _model;
@@ -122,7 +130,7 @@ template <class Row>
 RecordOf<Row> Workspace::Create(Row row) {
     row.id = _session->NewRowId();
     row.version = 0;
-    row.lastModifier = _user;
+    row.lastModifier.clear();
     row.lastUpdate = 0;
     auto record = std::make_shared<StoredRecord<Row>>(*this, std::move(row));
     _objects.Add(record);

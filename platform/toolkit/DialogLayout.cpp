@@ -8,6 +8,7 @@
 #include "toolkit/ZOLDlgEditor.h"
 #include "toolkit/ZOLDlgFrame.h"
 #include "toolkit/ZOLDlgLabel.h"
+#include "toolkit/ZOLDlgSplitter.h"
 #include "toolkit/ZOLDlgTabContainer.h"
 
 #include <algorithm>
@@ -21,6 +22,10 @@ constexpr int spacing = LayoutMetrics::spacing;
 
 bool IsField(const ZOLDialog& dialog) {
     return dynamic_cast<const ZOLDlgEditor*>(&dialog) || dynamic_cast<const ZOLDlgCombo*>(&dialog);
+}
+
+bool HasTitle(const ZOLDialog& dialog) {
+    return IsField(dialog) && !dialog.GetTitle().IsEmpty();
 }
 
 bool IsTabs(const ZOLDialog& dialog) {
@@ -64,15 +69,39 @@ DialogLayout::DialogLayout(const ZOLDialog& window, const TextMeasure& measure, 
     const LayoutSize natural = Natural(window);
     _size = {std::max(size.width, natural.width), std::max(size.height, natural.height)};
     Place(window, {0, 0, _size.width, _size.height});
-    if (dynamic_cast<const ZOLDlgDialog*>(&window)) {
-        const int height = InsetsOf(window).bottom - 2 * spacing;
-        _buttonRow = {spacing, _size.height - spacing - height, _size.width - 2 * spacing, height};
-    }
+    if (const auto* dialog = dynamic_cast<const ZOLDlgDialog*>(&window))
+        PlaceButtons(*dialog);
 }
 
 std::optional<LayoutRectangle> DialogLayout::Find(const ZOLDialog& dialog) const {
     const auto found = _places.find(&dialog);
     return found == _places.end() ? std::nullopt : std::optional(found->second);
+}
+
+std::optional<LayoutRectangle> DialogLayout::FindTitle(const ZOLDialog& field) const {
+    const auto found = _titles.find(&field);
+    return found == _titles.end() ? std::nullopt : std::optional(found->second);
+}
+
+std::optional<LayoutRectangle> DialogLayout::FindButton(ZOLDialogButton button) const {
+    const auto found = _buttons.find(button);
+    return found == _buttons.end() ? std::nullopt : std::optional(found->second);
+}
+
+// Lines of a form: a field behind a label, or behind its own title, makes one line with it.
+std::vector<DialogLayout::Row> DialogLayout::FormOf(const std::vector<const ZOLDialog*>& children) const {
+    std::vector<Row> rows;
+    for (const ZOLDialog* child : children) {
+        const bool followsLabel = IsField(*child) && !rows.empty() && rows.back().cells.size() == 1 &&
+                                  dynamic_cast<const ZOLDlgLabel*>(rows.back().cells.front().dialog);
+        if (followsLabel)
+            rows.back() = {{rows.back().cells.front(), {child}}, true};
+        else if (HasTitle(*child))
+            rows.push_back({{{child, Cell::Title}, {child, Cell::Field}}, true});
+        else
+            rows.push_back({{{child}}, false});
+    }
+    return rows;
 }
 
 std::vector<DialogLayout::Row> DialogLayout::RowsOf(const ZOLDialog& holder) const {
@@ -83,20 +112,15 @@ std::vector<DialogLayout::Row> DialogLayout::RowsOf(const ZOLDialog& holder) con
         for (std::size_t i = 0; i < children.size(); ++i) {
             if (i % static_cast<std::size_t>(hints.columns) == 0)
                 rows.push_back({{}, true});
-            rows.back().cells.push_back(children[i]);
+            rows.back().cells.push_back({children[i]});
         }
-    } else if (hints.orientation == 1) {
-        rows.push_back({children, false});
-    } else {
-        for (const ZOLDialog* child : children) {
-            const bool followsLabel = IsField(*child) && !rows.empty() && rows.back().cells.size() == 1 &&
-                                      dynamic_cast<const ZOLDlgLabel*>(rows.back().cells.front());
-            if (followsLabel)
-                rows.back() = {{rows.back().cells.front(), child}, true};
-            else
-                rows.push_back({{child}, false});
-        }
+        return rows;
     }
+    if (hints.orientation != 1)
+        return FormOf(children);
+    rows.emplace_back();
+    for (const ZOLDialog* child : children)
+        rows.back().cells.push_back({child});
     return rows;
 }
 
@@ -107,21 +131,54 @@ std::vector<int> DialogLayout::ColumnWidths(const std::vector<Row>& rows) {
             continue;
         widths.resize(std::max(widths.size(), row.cells.size()));
         for (std::size_t i = 0; i < row.cells.size(); ++i)
-            widths[i] = std::max(widths[i], Natural(*row.cells[i]).width);
+            widths[i] = std::max(widths[i], Natural(row.cells[i]).width);
     }
     return widths;
 }
 
 DialogLayout::Insets DialogLayout::InsetsOf(const ZOLDialog& holder) const {
-    const int line = _measure.GetLineHeight() + 2 * LayoutMetrics::textMargin;
     if (holder.IsWindow())
-        return {spacing, spacing, dynamic_cast<const ZOLDlgDialog*>(&holder) ? line + 2 * spacing : spacing};
+        return {spacing, spacing, ButtonRowSize(holder).height + spacing};
     if (IsTabs(holder))
-        return {spacing, line + spacing, spacing};
+        return {spacing, _measure.GetLineHeight() + 2 * LayoutMetrics::textMargin + spacing, spacing};
     const auto* frame = dynamic_cast<const ZOLDlgFrame*>(&holder);
     const int title = frame && frame->HasTitle() ? _measure.GetLineHeight() : 0;
     const int border = frame && frame->HasBorder() ? spacing : 0;
     return {border, border + title, border};
+}
+
+// All buttons of a dialog are as large as the largest.
+LayoutSize DialogLayout::ButtonSize(const ZOLDlgDialog& dialog) const {
+    int width = 0;
+    for (const ZOLDialogButton button : DialogButtons::Row)
+        if (dialog.GetButtons().At(button).isThere)
+            width = std::max(width, _measure.GetTextWidth(dialog.GetButtons().GetTitle(button, dialog)));
+    return {width + 4 * LayoutMetrics::textMargin, _measure.GetLineHeight() + 2 * LayoutMetrics::textMargin};
+}
+
+// With the space above it; nothing in windows without buttons.
+LayoutSize DialogLayout::ButtonRowSize(const ZOLDialog& holder) const {
+    const auto* dialog = dynamic_cast<const ZOLDlgDialog*>(&holder);
+    if (!dialog)
+        return {};
+    const auto isThere = [dialog](ZOLDialogButton button) { return dialog->GetButtons().At(button).isThere; };
+    const auto count = std::count_if(DialogButtons::Row.begin(), DialogButtons::Row.end(), isThere);
+    const LayoutSize button = ButtonSize(*dialog);
+    return {static_cast<int>(count) * button.width + Gaps(static_cast<std::size_t>(count)),
+            button.height + spacing};
+}
+
+void DialogLayout::PlaceButtons(const ZOLDlgDialog& dialog) {
+    const LayoutSize button = ButtonSize(dialog);
+    const int y = _size.height - spacing - button.height;
+    _buttonRow = {spacing, y, _size.width - 2 * spacing, button.height};
+    int x = _size.width - spacing - ButtonRowSize(dialog).width;
+    for (const ZOLDialogButton placed : DialogButtons::Row) {
+        if (!dialog.GetButtons().At(placed).isThere)
+            continue;
+        _buttons[placed] = {x, y, button.width, button.height};
+        x += button.width + spacing;
+    }
 }
 
 LayoutSize DialogLayout::Natural(const ZOLDialog& dialog) {
@@ -131,6 +188,7 @@ LayoutSize DialogLayout::Natural(const ZOLDialog& dialog) {
     if (dialog.HoldsChildren()) {
         const Insets insets = InsetsOf(dialog);
         size = NaturalContent(dialog);
+        size.width = std::max(size.width, ButtonRowSize(dialog).width);
         size.width += 2 * insets.side;
         size.height += insets.top + insets.bottom;
     } else {
@@ -143,6 +201,16 @@ LayoutSize DialogLayout::Natural(const ZOLDialog& dialog) {
         size.height = wanted.height;
     _natural.emplace(&dialog, size);
     return size;
+}
+
+LayoutSize DialogLayout::Natural(const Cell& cell) {
+    const LayoutSize field = Natural(*cell.dialog);
+    if (cell.part == Cell::Field || !HasTitle(*cell.dialog))
+        return field;
+    const LayoutSize title = {_measure.GetTextWidth(cell.dialog->GetTitle()), _measure.GetLineHeight()};
+    if (cell.part == Cell::Title)
+        return title;
+    return {title.width + spacing + field.width, std::max(title.height, field.height)};
 }
 
 LayoutSize DialogLayout::NaturalContent(const ZOLDialog& holder) {
@@ -167,7 +235,7 @@ LayoutSize DialogLayout::NaturalContent(const ZOLDialog& holder) {
 LayoutSize DialogLayout::NaturalRow(const Row& row, const std::vector<int>& columns) {
     LayoutSize size;
     for (std::size_t i = 0; i < row.cells.size(); ++i) {
-        const LayoutSize natural = Natural(*row.cells[i]);
+        const LayoutSize natural = Natural(row.cells[i]);
         size.width += row.isAligned ? columns[i] : natural.width;
         size.height = std::max(size.height, natural.height);
     }
@@ -182,10 +250,54 @@ void DialogLayout::Place(const ZOLDialog& dialog, const LayoutRectangle& area) {
     const Insets insets = InsetsOf(dialog);
     const LayoutRectangle inside = {area.x + insets.side, area.y + insets.top, area.width - 2 * insets.side,
                                     area.height - insets.top - insets.bottom};
+    if (const auto* splitter = dynamic_cast<const ZOLDlgSplitter*>(&dialog))
+        return PlacePanes(*splitter, inside);
     if (!IsTabs(dialog))
         return PlaceRows(RowsOf(dialog), inside);
     for (const ZOLDialog* page : ChildrenWithRoom(dialog))
         Place(*page, inside);
+}
+
+void DialogLayout::Place(const Cell& cell, const LayoutRectangle& area) {
+    // As high as a field of one line at least, so that all texts of a row stand on one line.
+    const int line = _measure.GetLineHeight() + 2 * LayoutMetrics::textMargin;
+    const auto height = [&](int natural) { return std::min(std::max(natural, line), area.height); };
+    if (cell.part == Cell::Title) {
+        _titles[cell.dialog] = {area.x, area.y, area.width, height(Natural(cell).height)};
+        return;
+    }
+    if (cell.part == Cell::Whole && HasTitle(*cell.dialog)) {
+        const Cell title = {cell.dialog, Cell::Title};
+        const int width = Natural(title).width;
+        Place(title, {area.x, area.y, width, area.height});
+        return Place(Cell{cell.dialog, Cell::Field},
+                     {area.x + width + spacing, area.y, area.width - width - spacing, area.height});
+    }
+    const bool fills = GrowsVertically(*cell.dialog);
+    Place(*cell.dialog,
+          {area.x, area.y, area.width, fills ? area.height : height(Natural(*cell.dialog).height)});
+}
+
+// Panes fill the splitter: those that grow share the room that is left, or all when none grows.
+void DialogLayout::PlacePanes(const ZOLDlgSplitter& splitter, const LayoutRectangle& area) {
+    const bool isRow = splitter.GetLayoutHints().orientation == 1;
+    const std::vector<const ZOLDialog*> panes = ChildrenWithRoom(splitter);
+    std::vector<int> sizes;
+    std::vector<bool> grows;
+    for (const ZOLDialog* pane : panes) {
+        const LayoutSize natural = Natural(*pane);
+        sizes.push_back(isRow ? natural.width : natural.height);
+        grows.push_back(isRow ? GrowsHorizontally(*pane) : GrowsVertically(*pane));
+    }
+    if (std::count(grows.begin(), grows.end(), true) == 0)
+        grows.assign(grows.size(), true);
+    Spread(sizes, grows, isRow ? area.width : area.height);
+    int at = isRow ? area.x : area.y;
+    for (std::size_t i = 0; i < panes.size(); ++i) {
+        Place(*panes[i], isRow ? LayoutRectangle{at, area.y, sizes[i], area.height}
+                               : LayoutRectangle{area.x, at, area.width, sizes[i]});
+        at += sizes[i] + spacing;
+    }
 }
 
 void DialogLayout::PlaceRows(const std::vector<Row>& rows, const LayoutRectangle& area) {
@@ -195,7 +307,7 @@ void DialogLayout::PlaceRows(const std::vector<Row>& rows, const LayoutRectangle
     for (const Row& row : rows) {
         heights.push_back(NaturalRow(row, columns).height);
         grows.push_back(std::any_of(row.cells.begin(), row.cells.end(),
-                                    [](const ZOLDialog* cell) { return GrowsVertically(*cell); }));
+                                    [](const Cell& cell) { return GrowsVertically(*cell.dialog); }));
     }
     Spread(heights, grows, area.height);
     int y = area.y;
@@ -209,15 +321,13 @@ void DialogLayout::PlaceRow(const Row& row, const std::vector<int>& columns, con
     std::vector<int> widths;
     std::vector<bool> grows;
     for (std::size_t i = 0; i < row.cells.size(); ++i) {
-        widths.push_back(row.isAligned ? columns[i] : Natural(*row.cells[i]).width);
-        grows.push_back(GrowsHorizontally(*row.cells[i]));
+        widths.push_back(row.isAligned ? columns[i] : Natural(row.cells[i]).width);
+        grows.push_back(row.cells[i].part != Cell::Title && GrowsHorizontally(*row.cells[i].dialog));
     }
     Spread(widths, grows, area.width);
     int x = area.x;
     for (std::size_t i = 0; i < row.cells.size(); ++i) {
-        const ZOLDialog& cell = *row.cells[i];
-        const int height = GrowsVertically(cell) ? area.height : std::min(Natural(cell).height, area.height);
-        Place(cell, {x, area.y, widths[i], height});
+        Place(row.cells[i], {x, area.y, widths[i], area.height});
         x += widths[i] + spacing;
     }
 }

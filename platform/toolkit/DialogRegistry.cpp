@@ -1,6 +1,6 @@
 #include "toolkit/DialogRegistry.h"
 
-#include "toolkit/ZOLDialog.h"
+#include "toolkit/ZOLDlgWindow.h"
 
 #include <algorithm>
 
@@ -21,8 +21,13 @@ void DialogRegistry::Leave(ZOLDialog& dialog) {
     std::erase(_shown, &dialog);
 }
 
+ZOLDialog* DialogRegistry::Present(ZOLDialog* dialog) const {
+    return _numbers.contains(dialog) ? dialog : nullptr;
+}
+
 ZOLDialog* DialogRegistry::Living(ZOLDialog* dialog) const {
-    return dialog && _numbers.contains(dialog) && !dialog->IsBeingDestroyed() ? dialog : nullptr;
+    ZOLDialog* present = Present(dialog);
+    return present && !present->IsBeingDestroyed() ? present : nullptr;
 }
 
 void DialogRegistry::Raise(ZOLDialog& window) {
@@ -35,6 +40,19 @@ std::vector<ZOLDialog*> DialogRegistry::Windows() const {
     std::copy_if(_shown.begin(), _shown.end(), std::back_inserter(windows),
                  [](const ZOLDialog* window) { return window->IsOnScreen(); });
     return windows;
+}
+
+bool DialogRegistry::IsBehindModal(const ZOLDialog& dialog) const {
+    const ZOLDialog* window = dialog.GetHoldingWindow();
+    return std::any_of(_shown.begin(), _shown.end(), [window](const ZOLDialog* shown) {
+        const auto* modal = dynamic_cast<const ZOLDlgWindow*>(shown);
+        if (!modal || modal == window || !modal->IsModal() || !modal->IsOnScreen())
+            return false;
+        for (const ZOLDialog* owner = modal->GetOwner(); owner; owner = owner->GetOwner())
+            if (owner == window)
+                return true;
+        return false;
+    });
 }
 
 ZOLDialog* DialogRegistry::Top() const {

@@ -17,7 +17,9 @@ public:
     long Enter(ZOLDialog& dialog);
     void Leave(ZOLDialog& dialog);
 
-    // The dialog if it lives and is not being given up, else null. Any pointer may be asked for.
+    // The dialog if it is there, though perhaps being given up, else null. Any pointer may be asked for.
+    ZOLDialog* Present(ZOLDialog* dialog) const;
+    // The same, and null also for one that is being given up.
     ZOLDialog* Living(ZOLDialog* dialog) const;
 
     // Puts a window on top of all others.
@@ -26,6 +28,8 @@ public:
     ZOLDialog* Top() const;
     // Windows that a user can see, the top one last.
     std::vector<ZOLDialog*> Windows() const;
+    // Whether a modal window is open over the window that holds the dialog.
+    bool IsBehindModal(const ZOLDialog& dialog) const;
     // How many dialogs live.
     int Count() const { return static_cast<int>(_numbers.size()); }
 

@@ -14,11 +14,11 @@ std::vector<ZOLUnicodeString> SplitLines(const ZOLUnicodeString& text) {
     return lines;
 }
 
-ZOLUnicodeString JoinLines(const std::vector<ZOLUnicodeString>& lines) {
+ZOLUnicodeString JoinLines(const std::vector<ZOLUnicodeString>& lines, const char* between) {
     ZOLUnicodeString text;
     for (std::size_t i = 0; i < lines.size(); ++i) {
         if (i > 0)
-            text += "\n";
+            text += between;
         text += lines[i];
     }
     return text;

@@ -6,8 +6,8 @@
 
 namespace trellis {
 
-// A text as lines and back; an empty text is one empty line.
+// A text as lines and back, with line feeds or something else between them; an empty text is one empty line.
 std::vector<ZOLUnicodeString> SplitLines(const ZOLUnicodeString& text);
-ZOLUnicodeString JoinLines(const std::vector<ZOLUnicodeString>& lines);
+ZOLUnicodeString JoinLines(const std::vector<ZOLUnicodeString>& lines, const char* between = "\n");
 
 } // namespace trellis

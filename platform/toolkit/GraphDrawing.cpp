@@ -12,10 +12,6 @@ namespace trellis {
 
 namespace {
 
-constexpr int Frame = 4;     // pixels around the text of a decorated node, on each side
-constexpr int Bare = 1;      // the same without decoration
-constexpr int IconRoom = 20; // pixels of a pixmap with the gap behind it
-
 bool HasParentIn(const ZOLGraph& graph, const ZOLGraphNode& node) {
     const auto& arcs = node.ParentArcs();
     return std::any_of(arcs.begin(), arcs.end(),
@@ -124,8 +120,8 @@ LayoutSize GraphDrawing::NodeSize(const ZOLGraphNode& node, const TextMeasure& m
     }
     const int border = node.getDecorationVisibility() ? Frame : Bare;
     const int icon = node.HasPixmap() ? IconRoom : 0;
-    // One character more for the sign of the colour, so that a change of colour moves nothing.
-    return {icon + width + measure.GetCharacterWidth() + 2 * border,
+    // The sign has its room always, so that a change of colour moves nothing.
+    return {icon + width + SignGap + measure.GetCharacterWidth() + 2 * border,
             lines * measure.GetLineHeight() + 2 * border};
 }
 

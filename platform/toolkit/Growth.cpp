@@ -17,6 +17,8 @@ bool Grows(LayoutHints::Growth growth, const ZOLDialog& dialog) {
 } // namespace
 
 bool GrowsHorizontally(const ZOLDialog& dialog) {
+    if (dynamic_cast<const ZOLDlgSeparator*>(&dialog))
+        return dialog.GetOwner() && dialog.GetOwner()->GetLayoutHints().orientation == 0;
     return Grows(dialog.GetLayoutHints().horizontal, dialog);
 }
 

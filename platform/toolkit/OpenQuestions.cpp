@@ -1,5 +1,6 @@
 #include "toolkit/OpenQuestions.h"
 
+#include "toolkit/DialogRegistry.h"
 #include "toolkit/ZOLDialog.h"
 
 #include <algorithm>
@@ -54,6 +55,8 @@ bool OpenQuestions::Blocks(const ZOLDialog& dialog) const {
     const ZOLDialog* window = dialog.GetHoldingWindow();
     if (!window)
         return false;
+    if (DialogRegistry::Instance().IsBehindModal(*window))
+        return true;
     const long number = window->GetNumber();
     return std::any_of(_questions.begin(), _questions.end(), [&](const Question& question) {
         const bool isUnderAnother = question.box == number && &question != &_questions.back();

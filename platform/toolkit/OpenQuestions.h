@@ -31,7 +31,7 @@ public:
         long _box;
     };
 
-    // Whether an open question keeps a user from acting on that dialog.
+    // Whether an open question, or a modal window that is shown, keeps a user from acting on that dialog.
     bool Blocks(const ZOLDialog& dialog) const;
     // Answers a box; the first answer counts. False when that dialog is no open question.
     bool Answer(const ZOLDialog& box, int answer);

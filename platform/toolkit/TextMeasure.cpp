@@ -16,4 +16,8 @@ int TextMeasure::GetLineHeight() const {
     return 16;
 }
 
+int TextMeasure::GetRowHeight() const {
+    return GetLineHeight();
+}
+
 } // namespace trellis

@@ -11,6 +11,14 @@ void ZOL2DViewer::ResizeGraph(int width, int height) {
     MarkChanged();
 }
 
+trellis::LayoutSize ZOL2DViewer::GetAreaSize() const {
+    return _shownArea.width > 0 ? _shownArea : _area;
+}
+
+void ZOL2DViewer::SetShownArea(trellis::LayoutSize area) {
+    _shownArea = {std::max(area.width, 1), std::max(area.height, 1)};
+}
+
 void ZOL2DViewer::SetBackgroundColor(int index) {
     _background = index;
     MarkChanged();

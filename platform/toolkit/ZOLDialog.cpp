@@ -14,14 +14,18 @@ using trellis::DialogRegistry;
 using trellis::ToolkitView;
 
 ZOLDialog::ZOLDialog(ZOLDialog* owner, const ZOLString& name, unsigned long style)
-    : ZOLCommand(DialogRegistry::Instance().Living(owner), name),
-      _owner(DialogRegistry::Instance().Living(owner)),
+    : ZOLCommand(DialogRegistry::Instance().Present(owner), name),
+      _owner(DialogRegistry::Instance().Present(owner)),
       _style(style),
       _number(DialogRegistry::Instance().Enter(*this)),
       _visibilityNotification("ZOLDlgVisibilityNotification") {
     AddRef(); // the tree's reference
-    if (_owner)
-        _owner->_children.push_back(this);
+    if (!_owner)
+        return;
+    _owner->_children.push_back(this);
+    // A panel may go on building what it has given up already.
+    if (_owner->IsBeingDestroyed())
+        ZOLDialog::GiveUp();
 }
 
 ZOLDialog::~ZOLDialog() {
@@ -44,6 +48,7 @@ void ZOLDialog::TakeOutOfOwner() {
 void ZOLDialog::GiveUp() {
     ZOLCommand::GiveUp();
     _visibility = ZOLHidden;
+    trellis::OpenQuestions::Instance().Answer(*this, 0); // nobody could answer it any more
     MarkChanged();
     for (ZOLDialog* child : _children)
         if (!child->IsBeingDestroyed())
@@ -132,6 +137,8 @@ void ZOLDialog::Reparent(ZOLDialog* owner) {
     _owner->_children.push_back(this);
     if (followsOwner)
         SetFather(owner);
+    if (owner->IsBeingDestroyed() && !IsBeingDestroyed())
+        GiveUp();
     MarkChanged();
 }
 

@@ -50,7 +50,7 @@ void ZOLDlgContextualMenu::Close() {
 
 ZOLDlgContextualMenu* ZOLDlgContextualMenu::GetOpenMenu() {
     auto* menu = dynamic_cast<ZOLDlgContextualMenu*>(OpenMenu().Get());
-    return menu && menu->IsOpen() && !menu->IsBeingDestroyed() ? menu : nullptr;
+    return menu && menu->IsOpen() && menu->GetVisibility() == ZOLShown ? menu : nullptr;
 }
 
 bool ZOLDlgContextualMenu::ShowsChild(const ZOLDialog&) const {

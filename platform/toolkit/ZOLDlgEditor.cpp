@@ -100,13 +100,15 @@ void ZOLDlgEditor::SetVerifyCallback(ZOLVerifyFunction function, void* data) {
     _verifyData = data;
 }
 
-ZOLUserResult ZOLDlgEditor::UserInsert(const ZOLUnicodeString& text) {
+ZOLUserResult ZOLDlgEditor::UserInsert(const ZOLUnicodeString& pasted) {
     const trellis::CallbackScope scope;
     if (const ZOLUserResult gate = UserGate(); gate != ZOLUserResult::Done)
         return gate;
     if (IsReadOnly())
         return ZOLUserResult::ReadOnly;
 
+    const ZOLUnicodeString text =
+        HasSeveralLines() ? pasted : trellis::JoinLines(trellis::SplitLines(pasted), " ");
     const int behind = _end == -1 ? _start : _end;
     const ZOLUnicodeString edited = _text.SubString(0, _start) + text + _text.SubString(behind);
     const bool grows = edited.GetLengthInChar() > _text.GetLengthInChar();
@@ -145,7 +147,7 @@ ZOLUserResult ZOLDlgEditor::UserEnter() {
 
 void ZOLDlgEditor::UserLeave() {
     const trellis::CallbackScope scope;
-    if (_isUnconfirmed && !IsBeingDestroyed())
+    if (_isUnconfirmed && UserGate() == ZOLUserResult::Done)
         Confirm();
 }
 

@@ -38,7 +38,7 @@ trellis::LayoutSize ZOLDlgMultiList::GetNaturalSize(const trellis::TextMeasure& 
         characters += column.width;
         ++columns;
     }
-    const int width = characters * measure.GetCharacterWidth() + columns * 2 * LayoutMetrics::textMargin;
+    const int width = characters * measure.GetCharacterWidth() + columns * 2 * LayoutMetrics::cellMargin;
     const int lines = _visibleLines + 1; // the titles stand above the lines
-    return {width + LayoutMetrics::scrollBar, lines * measure.GetLineHeight() + LayoutMetrics::scrollBar};
+    return {width + LayoutMetrics::scrollBar, lines * measure.GetRowHeight() + LayoutMetrics::scrollBar};
 }

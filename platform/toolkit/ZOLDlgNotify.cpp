@@ -16,7 +16,7 @@ constexpr unsigned long questionBit = 0x2000000;
 } // namespace
 
 ZOLDlgNotify::ZOLDlgNotify(ZOLDialog* father, const ZOLString& name, unsigned long style)
-    : ZOLDialog(father, name, style) {
+    : ZOLDialog(trellis::DialogRegistry::Instance().Living(father), name, style) {
     InitialiseVisibility(ZOLHidden);
     _buttons.At(ZOLDialogButton::OK).isThere = true;
     _buttons.At(ZOLDialogButton::Cancel).isThere = style & questionBit;

@@ -68,5 +68,5 @@ void ZOLDlgSelectorList::DescribeTo(trellis::DialogDescription& description) con
 
 trellis::LayoutSize ZOLDlgSelectorList::GetNaturalSize(const trellis::TextMeasure& measure) const {
     return {_visibleWidth * measure.GetCharacterWidth() + trellis::LayoutMetrics::scrollBar,
-            _visibleHeight * measure.GetLineHeight() + 2 * trellis::LayoutMetrics::textMargin};
+            _visibleHeight * measure.GetRowHeight() + 2 * trellis::LayoutMetrics::textMargin};
 }

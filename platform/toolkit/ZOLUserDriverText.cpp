@@ -2,13 +2,13 @@
 
 #include "toolkit/DialogPath.h"
 #include "toolkit/DriverVerb.h"
+#include "toolkit/MenuOpening.h"
 #include "toolkit/UserKeys.h"
 #include "toolkit/ZOLDlgCombo.h"
 #include "toolkit/ZOLDlgContextualMenu.h"
 #include "toolkit/ZOLDlgEditor.h"
 #include "toolkit/ZOLDlgMultiList.h"
 #include "toolkit/ZOLDlgPushItem.h"
-#include "toolkit/ZOLGraphViewer.h"
 
 #include <algorithm>
 
@@ -48,32 +48,6 @@ ZOLUserResult TypeInto(ZOLDlgCombo& combo, const ZOLUnicodeString& text) {
             result != ZOLUserResult::Done)
             return result;
     return ZOLUserResult::Done;
-}
-
-ZOLDlgContextualMenu* MenuOf(const ZOLDialog& owner) {
-    for (ZOLDialog* child : owner.GetChildren()) {
-        auto* menu = dynamic_cast<ZOLDlgContextualMenu*>(child);
-        if (menu && menu->GetVisibility() == ZOLShown)
-            return menu;
-    }
-    return nullptr;
-}
-
-bool IsOpenOn(const ZOLDialog& owner) {
-    const ZOLDlgContextualMenu* open = ZOLDlgContextualMenu::GetOpenMenu();
-    return open && open->GetOwner() == &owner;
-}
-
-// A menu that a click on a node has opened stays as it is; a graph opens its own only by a click.
-ZOLUserResult OpenMenuOn(ZOLDialog& owner) {
-    if (IsOpenOn(owner))
-        return ZOLUserResult::Done;
-    if (auto* viewer = dynamic_cast<ZOLGraphViewer*>(&owner)) {
-        const ZOLUserResult result = viewer->UserContextBackground();
-        return result == ZOLUserResult::Done && !IsOpenOn(owner) ? ZOLUserResult::NotThere : result;
-    }
-    ZOLDlgContextualMenu* menu = MenuOf(owner);
-    return menu ? menu->UserOpen() : ZOLUserResult::NotThere;
 }
 
 ZOLUserResult PressItem(const std::string& path) {
@@ -118,7 +92,12 @@ void ZOLUserDriver::SelectText(ZOLDialog* editor, int from, int to) {
 }
 
 void ZOLUserDriver::Key(ZOLDialog* dialog, ZOLUserKey key) {
-    DriverVerb("press a key in", dialog).On<ZOLDialog>([key](ZOLDialog& target) {
+    DriverVerb verb("press a key in", dialog);
+    if (key == ZOLUserKey::Escape)
+        verb.KeepMenu(); // the key closes it itself
+    if (key == ZOLUserKey::F1)
+        verb.KeepEditor();
+    verb.On<ZOLDialog>([key](ZOLDialog& target) {
         if (auto* editor = dynamic_cast<ZOLDlgEditor*>(&target))
             DriverVerb::EnterEditor(*editor);
         return Swallowed(trellis::PressKey(target, key));
@@ -169,7 +148,7 @@ void ZOLUserDriver::Activate(ZOLDialog* list, int row) {
 
 void ZOLUserDriver::Menu(ZOLDialog* owner, const std::string& path) {
     DriverVerb("use the menu of", owner).KeepMenu().On<ZOLDialog>([&path](ZOLDialog& target) {
-        const ZOLUserResult opened = OpenMenuOn(target);
+        const ZOLUserResult opened = trellis::OpenMenuOf(target);
         return opened == ZOLUserResult::Done ? PressItem(path) : opened;
     });
 }
@@ -177,7 +156,7 @@ void ZOLUserDriver::Menu(ZOLDialog* owner, const std::string& path) {
 std::vector<ZOLUserDriver::MenuLine> ZOLUserDriver::OpenMenu(ZOLDialog* owner) {
     std::vector<MenuLine> lines;
     DriverVerb("open the menu of", owner).KeepMenu().On<ZOLDialog>([&lines](ZOLDialog& target) {
-        const ZOLUserResult opened = OpenMenuOn(target);
+        const ZOLUserResult opened = trellis::OpenMenuOf(target);
         if (opened == ZOLUserResult::Done)
             CollectLines(*ZOLDlgContextualMenu::GetOpenMenu(), 0, lines);
         return opened;

@@ -4,6 +4,7 @@
 #include "values/ZOLMsgCatalog.h"
 
 #include <cstdlib>
+#include <utility>
 
 void ZOLGYRError::Clear() {
     _mode = -1;
@@ -30,6 +31,12 @@ void ZOLGYRError::Set(const int code, const int mode, std::initializer_list<ZOLU
     Set(code, mode);
     _longMessage = ZOLUnicodeString();
     _parameters.assign(parameters.begin(), parameters.end());
+}
+
+void ZOLGYRError::Set(const int code, std::vector<ZOLUnicodeString> parameters) {
+    Set(code);
+    _longMessage = ZOLUnicodeString();
+    _parameters = std::move(parameters);
 }
 
 void ZOLGYRError::GetLongMsg(ZOLUnicodeString& message) const {

@@ -42,8 +42,7 @@ ZOLQRDTime::ZOLQRDTime(const ZOLUnicodeString& text, ZOLGYRError& error) {
     _valuated = ReadDay(text, _day);
     if (_valuated)
         return;
-    error.Set(NotADate);
-    error.Add(text);
+    error.Set(NotADate, {text});
 }
 
 ZOLUnicodeString ZOLQRDTime::GetFormattedDate() const {

@@ -92,12 +92,20 @@ TEST_F(ScriptRunnerTest, WhatNobodyExpectedIsAProblemOfItsLine) {
 }
 
 TEST_F(ScriptRunnerTest, TheScriptEndsAtTheFirstVerbThatIsRefused) {
-    for (const char* line : {"press Greyed", "press NoSuch", "rows List 7", "rows List x", "menu List Item",
-                             "click List", "toggle Greyed perhaps", "lines List nobody"}) {
+    for (const char* line :
+         {"press Greyed", "press NoSuch", "rows List 7", "rows List x", "menu List Item", "click List",
+          "toggle Greyed perhaps", "lines List nobody", "key List Enter", "key List Left"}) {
         EXPECT_EQ(Play(std::string(line) + "\ndescribe\n"), ExitCode::FoundProblem) << line;
         EXPECT_EQ(FirstProblem(), 60622) << line;
         EXPECT_FALSE(Wrote("> describe")) << line;
     }
+}
+
+TEST_F(ScriptRunnerTest, KeysGoToTheNamedWidget) {
+    EXPECT_EQ(Play("type NameEd ab\nkey NameEd Home\nkey NameEd Delete\nkey NameEd Plus\ndescribe NameEd\n"),
+              ExitCode::Fine)
+        << _output.str();
+    EXPECT_TRUE(Wrote("holds \"+b\"")) << _output.str();
 }
 
 TEST_F(ScriptRunnerTest, NothingIsPlayedWhenALineCannotBeUnderstood) {

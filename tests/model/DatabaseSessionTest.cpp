@@ -80,7 +80,14 @@ TEST_F(DatabaseSessionTest, UnsavedChangesAreListedByObjectAndCanBeDiscarded) {
     Workspace::Current()->Create(row);
     ZOLDMInstance link = Links(Part("bike"))[1];
     link.Delete(1, 1, 1, 1, 1);
-    EXPECT_EQ(DatabaseSession::UnsavedChanges(), (std::vector<ZOLUnicodeString>{"removed: f", "new: COLOR"}));
+    ConfigurablePartRow configurable;
+    configurable.partUuid = Part("bike").GetUUId().Text();
+    Workspace::Current()->Create(configurable);
+    std::string changes;
+    for (const UnsavedChange& change : DatabaseSession::UnsavedChanges())
+        changes += std::to_string(static_cast<int>(change.kind)) + " " + change.what.Bytes() + " " +
+                   change.object.Bytes() + ";";
+    EXPECT_EQ(changes, "2 link f;0 configurable part bike;0 category COLOR;");
     EXPECT_TRUE(DatabaseSession::DiscardUnsaved(error));
     EXPECT_TRUE(DatabaseSession::UnsavedChanges().empty());
     EXPECT_GT(link.GetCoid(), 0);

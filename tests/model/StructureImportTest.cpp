@@ -3,8 +3,10 @@
 
 #include <rapidcheck/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
+#include <map>
 
 namespace trellis::test {
 namespace {
@@ -146,6 +148,8 @@ INSTANTIATE_TEST_SUITE_P(
                 "2 60229, 3 60229, 4 60229"},
         BadFile{"TwoNames", Form::Csv, "parent,child,child_name\na,b,B\nc,b,C\n", "3 60233"},
         BadFile{"JsonSyntax", Form::Json, "{\"parts\": [\n{\"id\": \"a\"},\n{\"id\" 1}]}", "3 60230"},
+        BadFile{"JsonEndsBeforeItsParts", Form::Json,
+                "{\"links\": [{\"parent\": \"x\", \"child\": \"y\"}],\n\"parts\": [", "2 60230"},
         BadFile{"JsonEnds", Form::Json, "{\"parts\": [{\"id\": \"a\"}", "1 60230"},
         BadFile{"JsonOfAnotherKind", Form::Json, "[1, 2]", "1 60232"},
         BadFile{"JsonEmpty", Form::Json, "{}", "0 60210"},
@@ -176,6 +180,27 @@ TEST_F(StructureImportTest, AFileThatCannotBeReadIsNamed) {
     EXPECT_TRUE(StructureImport::ReadFile(folder.Write("a.csv", "parent,child\na,b\n"), report, error));
     EXPECT_TRUE(
         StructureImport::ReadFile(folder.Write("a.json", R"({"parts":[{"id":"z"}]})"), report, error));
+}
+
+TEST_F(StructureImportTest, TellsHowFarItIsAboutAHundredTimesAPieceOfWork) {
+    std::string table = "parent,child\n";
+    for (int i = 0; i < 1000; ++i)
+        table += "bike,part " + std::to_string(i) + "\n";
+    std::map<std::string, std::vector<std::int64_t>> told;
+    ASSERT_TRUE(
+        StructureImport::ReadText(table, Form::Csv, "file", report, error,
+                                  [&](const ZOLUnicodeString& text, std::int64_t done, std::int64_t of) {
+                                      EXPECT_EQ(of, text == "parts" ? 1001 : 1000);
+                                      told[text.Bytes()].push_back(done);
+                                  }));
+    ASSERT_EQ(told.size(), 2u);
+    EXPECT_EQ(told["parts"].back(), 1001);
+    EXPECT_EQ(told["links"].back(), 1000);
+    for (const auto& [text, steps] : told) {
+        EXPECT_TRUE(std::is_sorted(steps.begin(), steps.end())) << text;
+        EXPECT_LE(steps.size(), 102u) << text;
+        EXPECT_GE(steps.size(), 50u) << text;
+    }
 }
 
 TEST_F(StructureImportTest, AFailedWriteLeavesTheDatabaseAsItWas) {

@@ -1,5 +1,6 @@
 #include "service/ServiceFixture.h"
 
+#include "model/ZOLDMPubSub.h"
 #include "service/DictionaryImport.h"
 #include "store/Workspace.h"
 
@@ -171,11 +172,31 @@ TEST_F(DictionaryImportTest, AnythingElseThatFailsIsTakenBackWhole) {
         }
     }
     EXPECT_EQ(Stored("SELECT count(*) FROM effectivity"), "3");
-    EXPECT_FALSE(DictionaryImport::ReadFile(folder.Path("none.csv"), "BIKE", report, error));
-    EXPECT_EQ(TakeCode(), 60202);
+    for (const std::string& file : {folder.Path("none.csv"), folder.Path()}) {
+        EXPECT_FALSE(DictionaryImport::ReadFile(file, "BIKE", report, error));
+        EXPECT_EQ(TakeCode(), 60202) << file;
+    }
     EXPECT_TRUE(DictionaryImport::ReadFile(folder.Write("d.json", GoodJson), "corporate", report, error))
         << Message();
     EXPECT_EQ(Names(Manager().GetCorporateDictionary()), "COLOUR(RED BLUE )LAMP(LED )");
+}
+
+TEST_F(DictionaryImportTest, ARefusedOneKeepsTheEventsThatWaitForASave) {
+    ZOLDMPubSub::PublishEvent(Part("BIKE"), ZOLDMPubSub::ObjectChanged);
+    EXPECT_FALSE(Import("record,name\noption,RED\n"));
+    ASSERT_TRUE(Import(GoodCsv));
+    EXPECT_EQ(Stored("SELECT count(*) FROM event"), "1");
+}
+
+TEST_F(DictionaryImportTest, TellsHowFarItIsUntilAllIsDone) {
+    std::string told;
+    ASSERT_TRUE(
+        DictionaryImport::ReadText(GoodCsv, DictionaryImport::Form::Csv, "file", "BIKE", report, error,
+                                   [&](const ZOLUnicodeString& text, std::int64_t done, std::int64_t of) {
+                                       EXPECT_EQ(text, "categories and options");
+                                       told += std::to_string(done) + "/" + std::to_string(of) + " ";
+                                   }));
+    EXPECT_EQ(told, "1/5 2/5 3/5 4/5 5/5 ");
 }
 
 TEST_F(DictionaryImportTest, ARefusedRightChangesNothing) {

@@ -28,7 +28,7 @@ TEST_F(DictionaryRights, ARefusedFunctionFailsBelowItsPrivilegeLimitAndNotFromIt
         EXPECT_EQ(TakeCode(), c.unset) << c.user;
         const bool isRefused = c.set != 0;
         EXPECT_EQ(Unsaved() == 0, isRefused) << c.user << ": a refusal changes nothing";
-        Manager().DiscardUnsaved(error);
+        DatabaseSession::DiscardUnsaved(error);
     }
 }
 
@@ -81,7 +81,7 @@ TEST_F(DictionaryRights, ACategoryIsChangedByItsOwnerOrganizationOrHighPrivilege
         Manager().RemoveCategoryFromDictionary(colour, error);
         EXPECT_EQ(TakeCode(), code) << user;
         EXPECT_EQ(Unsaved() == 0, code != 0) << user;
-        Manager().DiscardUnsaved(error);
+        DatabaseSession::DiscardUnsaved(error);
     }
     As("other");
     EXPECT_TRUE(Category(colour->GetConfigItem(), "LAMP")) << "adding needs the right alone";

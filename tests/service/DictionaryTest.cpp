@@ -1,10 +1,15 @@
 #include "service/ServiceFixture.h"
 
+#include "model/ZOLDMPubSub.h"
+#include "model/ZOLDMWVTA.h"
+#include "site/ZOLIQrdServices.h"
 #include "store/Workspace.h"
+#include "values/Settings.h"
 
 #include <rapidcheck.h>
 
 #include <algorithm>
+#include <filesystem>
 
 namespace trellis::test {
 
@@ -168,8 +173,7 @@ TEST_F(Dictionary, AFailedSaveKeepsMemoryNamesObjectAndUserAndCanBeRepeatedAfter
     EXPECT_EQ(parameters, "COLOUR;bert;");
     EXPECT_EQ(Names(dictionary), "COLOUR(RED )");
     EXPECT_EQ(Stored("SELECT count(*) FROM effectivity"), "0");
-    std::vector<UnsavedChange> changes;
-    Manager().GetUnsavedChanges(changes);
+    const std::vector<UnsavedChange> changes = DatabaseSession::UnsavedChanges();
     ASSERT_EQ(changes.size(), 2u);
     EXPECT_TRUE(changes[0].isStale);
     EXPECT_EQ(changes[0].what, "category");
@@ -181,6 +185,54 @@ TEST_F(Dictionary, AFailedSaveKeepsMemoryNamesObjectAndUserAndCanBeRepeatedAfter
     colour->SetDescription("by anna", error);
     EXPECT_EQ(Save(), 0);
     EXPECT_EQ(colour->GetLastModifierId(), "anna");
+}
+
+TEST_F(Dictionary, SaveAndCommitAreSignedByWhoIsLoggedInAtThatMoment) {
+    const ZOLIQrdCategory_var colour = Category(dictionary, "COLOUR");
+    EXPECT_TRUE(colour->GetLastModifierId().IsEmpty()) << "nobody saved it yet";
+    EXPECT_TRUE(colour->GetLastUpdateDate().IsEmpty());
+    As("bert");
+    ASSERT_EQ(Save(), 0);
+    EXPECT_EQ(colour->GetLastModifierId(), "bert");
+    std::vector<ZOLGYRError> problems;
+    As("");
+    Settings::Current().Declare("USER", "carl", SettingOrigin::SiteFile, "", problems);
+    ZOLDMPubSub::PublishEvent(Part("BIKE"), ZOLDMPubSub::ObjectChanged);
+    Category(dictionary, "LAMP");
+    EXPECT_EQ(ZOLDMWVTA::Commit(1, 1), 0);
+    Settings::Current().Forget();
+    EXPECT_EQ(Stored("SELECT last_modifier FROM category WHERE name = 'LAMP'"), "carl");
+    EXPECT_EQ(Stored("SELECT publisher || last_modifier FROM event"), "carlcarl");
+    EXPECT_EQ(Stored("SELECT last_modifier FROM category WHERE name = 'COLOUR'"), "bert");
+}
+
+TEST_F(Dictionary, AQueryWithoutACarrierTellsTheTraceWhatFailed) {
+    Category(dictionary, "COLOUR");
+    ASSERT_EQ(Save(), 0);
+    Reopen();
+    const ZOLIQrdConfigItem_var reopened = Object("BIKE").GetDictionary();
+    const std::string trace = folder.Path("trace");
+    std::vector<ZOLGYRError> problems;
+    Settings::Current().Declare("TRACE.SINK", trace, SettingOrigin::SiteFile, "", problems);
+    EXPECT_EQ(Names(reopened), "COLOUR()");
+    EXPECT_FALSE(std::filesystem::exists(trace)) << "nothing failed yet";
+
+    Manager().UnloadDictionary(reopened, 0);
+    ZOLListValZOLIQrdEffectivity_var options;
+    const auto failing = [](const auto& query) {
+        Workspace::Current()->Session().FailStatement(1);
+        query();
+        Workspace::Current()->Session().FailStatement(0);
+    };
+    failing([&] { EXPECT_EQ(Names(reopened), ""); });
+    failing([&] { ZOLQRDCfgBase::GetOptByName("RED", options); });
+    failing([] { CreateServices()->GetValue("QRD_PROPOSED_EFF", ZOLIQrdServices::Group); });
+    Settings::Current().Forget();
+    const std::string lines = TemporaryFolder::Read(trace);
+    EXPECT_EQ(std::ranges::count(lines, '\n'), 3) << lines;
+    for (const char* operation : {"GetCategories: 20903 ", "ZOLQRDCfgBase::GetOptByName: 20903 ",
+                                  "ZOLIQrdServices::GetValue: 20903 "})
+        EXPECT_NE(lines.find(operation), std::string::npos) << lines;
 }
 
 TEST_F(Dictionary, SaveRunsWithACodeStandingAndLeavesIt) {
@@ -204,7 +256,7 @@ TEST_F(Dictionary, UnloadingForgetsUnsavedChangesAndHandlesStayEqual) {
     const ZOLIQrdEffectivity_var red = Option(colour, "RED");
     ASSERT_EQ(Save(), 0);
     colour->SetDescription("unsaved", error);
-    Option(colour, "BLUE");
+    const ZOLIQrdEffectivity_var blue = Option(colour, "BLUE");
     Manager().RemoveOptionFromDictionary(red, error);
     Manager().UnloadDictionary(dictionary, 0);
     EXPECT_EQ(Unsaved(), 0u);
@@ -213,10 +265,16 @@ TEST_F(Dictionary, UnloadingForgetsUnsavedChangesAndHandlesStayEqual) {
     Manager().GetCategoriesFromDictionary(dictionary, categories);
     EXPECT_EQ(categories[1], colour);
     EXPECT_EQ(categories[1]->GetDescription(), "COLOUR");
-    EXPECT_EQ(colour->GetDescription(), "unsaved") << "what it last held";
-    colour->SetDescription("again", error);
+    EXPECT_EQ(colour->GetDescription(), "COLOUR") << "handles in other panels read anew";
+    EXPECT_FALSE(red->IsNull());
+    EXPECT_TRUE(blue->IsNull()) << "it was never stored";
+    EXPECT_EQ(blue->GetOption(), "BLUE") << "what it last held";
+    blue->SetDescription("again", error);
     EXPECT_EQ(TakeCode(), 60301);
-    EXPECT_EQ(parameters, "COLOUR;");
+    EXPECT_EQ(parameters, "BLUE;");
+    colour->SetDescription("again", error);
+    EXPECT_EQ(TakeCode(), 0);
+    EXPECT_EQ(categories[1]->GetDescription(), "again") << "both mean the same object";
     ZOLListValZOLIQrdEffectivity_var options;
     colour->GetOptions(options);
     ASSERT_EQ(options.Size(), 1);
@@ -255,7 +313,7 @@ TEST_F(Dictionary, DiscardingADeletionBringsAllOfItBack) {
     colour->SetDefaultOptions({red}, error);
     ASSERT_EQ(Save(), 0);
     Manager().DeleteDictionary(Part("BIKE"), error);
-    Manager().DiscardUnsaved(error);
+    DatabaseSession::DiscardUnsaved(error);
     EXPECT_EQ(Object("BIKE").GetDictionary(), dictionary);
     EXPECT_EQ(Names(dictionary), "COLOUR(RED )");
     EXPECT_FALSE(Option(colour, "RED"));
@@ -357,7 +415,7 @@ TEST_F(Dictionary, MemoryAndStoreAgreeAfterAnyWork) {
                 RC_ASSERT(Save() == 0);
                 saved = model;
             } else if (action == 8) {
-                Manager().DiscardUnsaved(error);
+                DatabaseSession::DiscardUnsaved(error);
                 model = saved;
             } else if (action == 9) {
                 Manager().UnloadDictionary(item, 0);

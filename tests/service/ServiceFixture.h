@@ -76,11 +76,7 @@ protected:
         }
         return names;
     }
-    std::size_t Unsaved() {
-        std::vector<UnsavedChange> changes;
-        Manager().GetUnsavedChanges(changes);
-        return changes.size();
-    }
+    static std::size_t Unsaved() { return DatabaseSession::UnsavedChanges().size(); }
     // Saves and answers the code, which is cleared.
     int Save() {
         Manager().Save(error);

@@ -1,5 +1,9 @@
 #include "site/SiteFixture.h"
 
+#include "store/Workspace.h"
+
+#include <functional>
+
 namespace trellis::test {
 
 using Administration = SiteFixture;
@@ -77,6 +81,43 @@ TEST_F(Administration, EveryWrongRequestIsNamedAndChangesNothing) {
     DatabaseSession::Close();
     EXPECT_FALSE(SiteAdministration::AddSite("Delft", error));
     EXPECT_EQ(TakeCode(), 60507);
+}
+
+// A store that cannot be read must not look like one in which there is nothing yet.
+TEST_F(Administration, AFailedReadRefusesTheChangeAndDoublesNothing) {
+    SiteAdministration::AddRole("engineer", "", error);
+    SiteAdministration::SetRight({"Set", "engineer", "", "", false}, error);
+    SiteAdministration::SetPerson({"bo", "", "", "", "", 0}, error);
+    SiteAdministration::SetAdministratorValue("A", ZOLIQrdServices::Group, "1", error);
+    ASSERT_TRUE(SiteAdministration::Save(error));
+    const std::function<bool()> changes[] = {
+        [this] {
+            return SiteAdministration::SetPerson({"bo", "Bo", "", "", "", 0}, error);
+        },
+        [this] {
+            return SiteAdministration::SetRight({"Set", "engineer", "", "", true}, error);
+        },
+        [this] { return SiteAdministration::SetAdministratorValue("A", ZOLIQrdServices::Group, "2", error); },
+        [this] { return SiteAdministration::RemovePerson("bo", error); },
+        [this] { return SiteAdministration::RemoveRole("engineer", "", error); }};
+    for (const auto& change : changes) {
+        ASSERT_TRUE(DatabaseSession::Open(path, error));
+        SiteAdministration::Persons(); // the directory is read
+        for (int n = 1;; ++n) {
+            Workspace::Current()->Session().FailStatement(n);
+            const bool done = change();
+            Workspace::Current()->Session().FailStatement(0);
+            EXPECT_EQ(done, TakeCode() == 0) << n;
+            if (done)
+                break;
+            EXPECT_TRUE(DatabaseSession::UnsavedChanges().empty()) << n;
+        }
+        EXPECT_EQ(Workspace::Current()->Find(StoreQuery<PersonRow>(), error).size() +
+                      Workspace::Current()->Find(StoreQuery<RightRow>(), error).size() +
+                      Workspace::Current()->Find(StoreQuery<AdministratorValueRow>(), error).size(),
+                  DatabaseSession::UnsavedChanges()[0].kind == UnsavedChange::Kind::Removed ? 2u : 3u);
+        ASSERT_TRUE(DatabaseSession::DiscardUnsaved(error));
+    }
 }
 
 TEST_F(Administration, ARemovedRoleTakesItsRightsAlong) {

@@ -72,6 +72,35 @@ TEST_F(StoreSessionTest, ACutDatabaseIsUnreadable) {
     EXPECT_EQ(CodeOfOpening(path), 20901);
 }
 
+TEST_F(StoreSessionTest, ASecondWriterIsToldInPlainWordsAndMayTryAgain) {
+    const auto other = Another();
+    other->Session().Execute("PRAGMA busy_timeout=1"); // else it waits some seconds for the first
+    NewCategory(*other, "COLOR");
+    {
+        const StoreTransaction first(mine->Session());
+        EXPECT_FALSE(Save(*other));
+        EXPECT_EQ(error.GetCode(), 20903);
+        EXPECT_LE(error.GetMode(), 0);
+        EXPECT_EQ(Parameter(0), path);
+        EXPECT_EQ(Parameter(1), "another process is writing to it");
+        EXPECT_TRUE(mine->Find(StoreQuery<CategoryRow>(), error).empty()) << "readers are never kept waiting";
+    }
+    EXPECT_TRUE(Save(*other));
+}
+
+TEST_F(StoreSessionTest, AReadOnlyDatabaseIsReadAndItsSavesAreRefusedForGood) {
+    NewCategory(*mine, "COLOR");
+    ASSERT_TRUE(Save(*mine));
+    mine->Session().Execute("PRAGMA query_only=ON"); // rights of files do not bind the superuser
+    ASSERT_TRUE(Category(*mine, "COLOR"));
+    NewCategory(*mine, "SIZE");
+    EXPECT_FALSE(Save(*mine));
+    EXPECT_EQ(error.GetCode(), 20903);
+    EXPECT_GT(error.GetMode(), 0);
+    EXPECT_EQ(Parameter(1), "attempt to write a readonly database");
+    EXPECT_TRUE(mine->HasUnsaved());
+}
+
 TEST_F(StoreSessionTest, ATransactionWithoutCommitLeavesNothing) {
     {
         StoreTransaction transaction(mine->Session());

@@ -94,6 +94,26 @@ TEST_F(DestructionTest, ADialogMadeForAFatherThatIsGoneStandsAlone) {
     EXPECT_EQ(orphan.GetFather(), nullptr);
 }
 
+TEST_F(DestructionTest, WhatIsBuiltInAPanelThatIsGivenUpEndsWithItAndAWindowStandsAlone) {
+    auto* frame = new ZOLDlgFrame(panel, "Frame");
+    const trellis::WeakCommand life([&] {
+        const trellis::CallbackScope scope;
+        frame->RequestDelayedDestruction();
+        auto* late = new ZOLDlgPushButton(frame, "Late");
+        EXPECT_EQ(late->GetOwner(), frame);
+        EXPECT_EQ(late->GetVisibility(), ZOLHidden);
+        auto* moved = new ZOLDlgPushButton(panel, "Moved");
+        moved->Reparent(frame);
+        EXPECT_EQ(moved->GetVisibility(), ZOLHidden);
+        ListeningPanel window(frame, "Window");
+        window.SetVisibility(ZOLShown);
+        EXPECT_EQ(window.GetOwner(), nullptr);
+        EXPECT_TRUE(window.IsOnScreen());
+        return trellis::WeakCommand(late);
+    }());
+    EXPECT_EQ(life.Get(), nullptr);
+}
+
 TEST_F(DestructionTest, WhatIsGivenUpInsideNestedCallbacksWaitsForTheOutermost) {
     auto* other = new ZOLDlgPushButton(panel, "Other");
     panel->Listen(other, other->GetPushBActivateNotification());

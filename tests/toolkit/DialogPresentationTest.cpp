@@ -1,7 +1,5 @@
-// Buttons, texts, description and layout of whole dialogs.
+// Buttons, texts and description of whole dialogs.
 
-#include "toolkit/DialogLayout.h"
-#include "toolkit/TextMeasure.h"
 #include "toolkit/ToolkitFixture.h"
 #include "toolkit/ZOLDlgCheckButton.h"
 #include "toolkit/ZOLDlgCombo.h"
@@ -14,9 +12,6 @@
 
 namespace {
 
-using trellis::DialogLayout;
-using trellis::LayoutRectangle;
-
 class DialogPresentationTest : public ToolkitTest {
 protected:
     static std::string ButtonLine(const ZOLDialog* dialog) {
@@ -24,10 +19,6 @@ protected:
         const std::size_t begin = text.find("buttons ") + 8;
         return text.substr(begin, text.find('\n', begin) - begin);
     }
-    static LayoutRectangle PlaceOf(const DialogLayout& layout, const ZOLDialog* dialog) {
-        return layout.Find(*dialog).value_or(LayoutRectangle{-1, -1, -1, -1});
-    }
-    trellis::TextMeasure measure;
 };
 
 // A panel whose own file is one that the toolkit ships; its base has another.
@@ -154,66 +145,4 @@ TEST_F(DialogPresentationTest, ADescriptionHoldsWhatAUserSeesAndNothingElse) {
 )");
     panel->SetVisibility(ZOLHidden);
     EXPECT_EQ(ZOLUserDriver::Describe(panel), "");
-}
-
-TEST_F(DialogPresentationTest, LabelsAndFieldsFormTwoColumnsAndTheListTakesTheRest) {
-    ListeningPanel* panel = OpenPanel();
-    auto* shortLabel = new ZOLDlgLabel(panel, "Id");
-    auto* shortField = new ZOLDlgEditor(panel, "IdEd");
-    new ZOLDlgLabel(panel, "Description");
-    auto* longField = new ZOLDlgEditor(panel, "DescEd");
-    auto* list = new ZOLDlgMultiList(panel, "List");
-    list->SetColumnTextWidth(0, 10);
-    const DialogLayout natural(*panel, measure);
-    const DialogLayout wide(*panel, measure, {900, 700});
-
-    EXPECT_EQ(PlaceOf(natural, shortField).x, PlaceOf(natural, longField).x);
-    EXPECT_EQ(PlaceOf(natural, shortField).y, PlaceOf(natural, shortLabel).y);
-    EXPECT_GT(PlaceOf(natural, longField).y, PlaceOf(natural, shortField).y);
-    EXPECT_EQ(PlaceOf(wide, longField), PlaceOf(natural, longField)) << "fields keep their size";
-    const LayoutRectangle before = PlaceOf(natural, list);
-    const LayoutRectangle after = PlaceOf(wide, list);
-    EXPECT_EQ(after.height - before.height, 700 - natural.GetSize().height);
-    EXPECT_EQ(after.x + after.width, 900 - after.x);
-    EXPECT_GT(wide.GetButtonRow().y, after.y + after.height);
-    EXPECT_LE(wide.GetButtonRow().y + wide.GetButtonRow().height, 700);
-}
-
-TEST_F(DialogPresentationTest, HiddenWidgetsGiveUpTheirRoomAndHiddenLabelsKeepIt) {
-    ListeningPanel* panel = OpenPanel();
-    auto* label = new ZOLDlgLabel(panel, "Bidon");
-    auto* check = new ZOLDlgCheckButton(panel, "Check");
-    auto* last = new ZOLDlgCheckButton(panel, "Last");
-    const int before = PlaceOf(DialogLayout(*panel, measure), last).y;
-    label->SetVisibility(ZOLHidden);
-    EXPECT_EQ(PlaceOf(DialogLayout(*panel, measure), last).y, before);
-    check->SetVisibility(ZOLHidden);
-    const DialogLayout layout(*panel, measure);
-    EXPECT_LT(PlaceOf(layout, last).y, before);
-    EXPECT_FALSE(layout.Find(*check).has_value());
-}
-
-TEST_F(DialogPresentationTest, AFrameSideBySideInAGridOrOfGivenSizeIsPlacedSo) {
-    ListeningPanel* panel = OpenPanel();
-    auto* row = new ZOLDlgFrame(panel, "Row", 0xc0000);
-    row->SetDefaultOrientation(1);
-    auto* left = new ZOLDlgCheckButton(row, "Left");
-    auto* right = new ZOLDlgCheckButton(row, "Right");
-    auto* grid = new ZOLDlgFrame(panel, "Grid", 0xc0000);
-    grid->SetGridConstraints(2);
-    std::vector<ZOLDialog*> cells;
-    for (const char* name : {"a", "wide cell", "b", "c"})
-        cells.push_back(new ZOLDlgCheckButton(grid, name));
-    auto* fixed = new ZOLDlgMultiList(panel, "Fixed");
-    fixed->SetRectDimensions(300, 60);
-    fixed->SetHorizontalAttachment(0);
-    fixed->SetVerticalAttachment(0);
-    const DialogLayout layout(*panel, measure, {800, 600});
-
-    EXPECT_EQ(PlaceOf(layout, left).y, PlaceOf(layout, right).y);
-    EXPECT_GT(PlaceOf(layout, right).x, PlaceOf(layout, left).x);
-    EXPECT_EQ(PlaceOf(layout, cells[1]).x, PlaceOf(layout, cells[3]).x);
-    EXPECT_EQ(PlaceOf(layout, cells[0]).x, PlaceOf(layout, cells[2]).x);
-    EXPECT_EQ(PlaceOf(layout, fixed).width, 300);
-    EXPECT_EQ(PlaceOf(layout, fixed).height, 60);
 }

@@ -192,6 +192,35 @@ TEST_F(QuestionsTest, ABlockedDialogAnswersByItsButtonsWhileItsWidgetsWork) {
     ZOLUserDriver::TakeMessages();
 }
 
+TEST_F(QuestionsTest, ABlockedDialogThatIsHiddenOrGivenUpAnswersNothing) {
+    auto* dialog = new ListeningPanel(outer, "Confirm", 0xc00);
+    ZOLUserDriver::WhenAsked([&](const Message&) {
+        dialog->SetVisibility(ZOLHidden);
+        return 1;
+    });
+    EXPECT_EQ(dialog->DisplayBlocked(), 0);
+    ZOLUserDriver::WhenAsked([&](const Message&) {
+        dialog->RequestDelayedDestruction();
+        return 1;
+    });
+    EXPECT_EQ(dialog->DisplayBlocked(), 0);
+    ZOLUserDriver::TakeMessages();
+}
+
+TEST_F(QuestionsTest, AModalDialogKeepsTheWindowsThatOwnItFromAnsweringWhileItIsShown) {
+    auto* other = OpenPanel("Other");
+    auto* otherButton = new ZOLDlgPushButton(other, "OtherButton");
+    auto* modal = OpenPanel("Modal", panel, 0x2000e00);
+    auto* inside = new ZOLDlgPushButton(modal, "Inside");
+    EXPECT_THROW(ZOLUserDriver::Press(button), ZOLUserDriver::Refused);
+    EXPECT_THROW(ZOLUserDriver::CloseWindow(outer), ZOLUserDriver::Refused);
+    EXPECT_EQ(button->UserActivate(), ZOLUserResult::BehindQuestion);
+    ZOLUserDriver::Press(otherButton);
+    ZOLUserDriver::Press(inside);
+    modal->SetVisibility(ZOLHidden);
+    ZOLUserDriver::Press(button);
+}
+
 TEST_F(QuestionsTest, TheBusyCursorIsLiftedWhileAQuestionWaitsAndGoesWithTheReturnToTheLoop) {
     auto* application = ZOLInteractiveApplication::GetApplication();
     panel->reaction = [&](ZOLCommand*, ZOLNotification*, void*) {

@@ -165,6 +165,28 @@ TEST_F(ZOLDlgEditorTest, AReadOnlyEditorRefusesTypingAndTakesCode) {
     EXPECT_EQ(fixed->GetText(), "told");
 }
 
+TEST_F(ZOLDlgEditorTest, APastedTextBecomesOneLineWhereThereIsRoomForOne) {
+    EXPECT_EQ(editor->UserInsert("one\ntwo"), ZOLUserResult::Done);
+    EXPECT_EQ(Text(), "one two");
+    EXPECT_EQ(verifier.asked, std::vector<std::string>{"one two"});
+    auto* notes = new ZOLDlgEditor(panel, "Notes", 0x80000);
+    EXPECT_EQ(notes->UserInsert("one\ntwo"), ZOLUserResult::Done);
+    EXPECT_EQ(notes->GetText(), "one\ntwo");
+}
+
+TEST_F(ZOLDlgEditorTest, AnEditorThatWasGreyedOrHiddenMeanwhileConfirmsNothing) {
+    ZOLUserDriver::Type(editor, "abc");
+    editor->SetSensitivity(ZOLGreyed);
+    editor->UserLeave();
+    editor->SetSensitivity(ZOLActive);
+    editor->SetVisibility(ZOLHidden);
+    editor->UserLeave();
+    EXPECT_TRUE(panel->heard.empty());
+    editor->SetVisibility(ZOLShown);
+    editor->UserLeave();
+    EXPECT_EQ(panel->heard, Heard{"Editor"});
+}
+
 TEST_F(ZOLDlgEditorTest, AnEditorGivenUpByItsOwnVerifyFunctionStopsTheTyping) {
     verifier.whileAsked = [&] { editor->RequestDelayedDestruction(); };
     EXPECT_THROW(ZOLUserDriver::Type(editor, "ab"), ZOLUserDriver::Refused);

@@ -20,6 +20,10 @@ TEST(ZOLGYRErrorTest, SetReplacesTheCodeAndKeepsTheTexts) {
     EXPECT_EQ(error.GetParameters().size(), 3u);
     EXPECT_EQ(error.GetParameters().front(), "first");
 
+    error.Set(60400, {"only"});
+    EXPECT_EQ(error.GetMode(), 1) << "without a mode it stays";
+    EXPECT_EQ(error.GetParameters(), std::vector<ZOLUnicodeString>{"only"});
+
     error.Clear();
     EXPECT_EQ(error.GetCode(), 0);
     EXPECT_EQ(error.GetMode(), -1);

@@ -1,17 +1,17 @@
-#include "model/FailureTrace.h"
+#include "values/FailureTrace.h"
 
 #include "values/ZOLGYRTrace.h"
+
+#include <string>
 
 namespace trellis {
 
 FailureTrace::~FailureTrace() {
     if (_error.GetCode() == 0)
         return;
-    ZOLGYRTrace trace(_method, 3, 0);
     ZOLUnicodeString message;
     _error.GetLongMsg(message);
-    trace.GetLigne().GetStream() << trace.Indent(trace.GetIndent()) << _method << " " << message.Bytes();
-    trace.Out();
+    ZOLGYRTrace::Note(std::string(_method) + ": " + std::to_string(_error.GetCode()) + " " + message.Bytes());
 }
 
 } // namespace trellis

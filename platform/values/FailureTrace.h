@@ -4,10 +4,11 @@
 
 namespace trellis {
 
-// FailureTrace: the carrier of an operation that has none to give its failure to. What stands in it at the end goes
-// to the trace.
+// FailureTrace: the carrier of an operation that has none to give its failure to. What stands in it at the
+// end goes to the trace, one line with the name of the operation, the number and its text.
 class FailureTrace {
 public:
+    // The name must outlive it.
     explicit FailureTrace(const char* method) : _method(method) {}
     ~FailureTrace();
     FailureTrace(const FailureTrace&) = delete;

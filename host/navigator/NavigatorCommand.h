@@ -1,0 +1,12 @@
+#pragma once
+
+#include "cli/ExitCode.h"
+#include "cli/HostSession.h"
+
+namespace trellis {
+
+// Opens the navigator on the session's database and serves its windows until the user leaves. Without a display it
+// says so in one line, with the ways to work without one.
+ExitCode RunNavigator(HostSession& session);
+
+} // namespace trellis

@@ -1,0 +1,150 @@
+#include "motif/GraphNodePainter.h"
+
+#include "motif/CairoShapes.h"
+#include "motif/GraphIcons.h"
+#include "toolkit/GraphDrawing.h"
+#include "toolkit/ZOLGraphNode.h"
+
+#include <string_view>
+
+namespace trellis {
+
+namespace {
+
+constexpr double Radius = 4;
+constexpr ThemeColour White{0xffffff};
+
+ThemeColour Saturated(const GraphColour& colour) {
+    return {static_cast<std::uint32_t>(colour.red << 16 | colour.green << 8 | colour.blue)};
+}
+
+bool HasSign(const GraphColour& colour) {
+    return *colour.sign != '\0';
+}
+
+// Behind a text a colour that means a state is lighter, so that the text reads well on each of them.
+ThemeColour Body(const ZOLGraphNode& node) {
+    const GraphColour& colour = GraphPalette::At(node.getColor());
+    const ThemeColour body = HasSign(colour) ? Saturated(colour).Mixed(White, 0.6) : Saturated(colour);
+    return node.isShadowIn() ? body.Mixed(ThemeColour{0}, 0.1) : body;
+}
+
+int BorderOf(const ZOLGraphNode& node) {
+    return node.getDecorationVisibility() ? GraphDrawing::Frame : GraphDrawing::Bare;
+}
+
+void PathOf(cairo_t* context, const LayoutRectangle& place) {
+    CairoShapes::RoundRectangle(context, place.x + 0.5, place.y + 0.5, place.width - 1, place.height - 1,
+                                Radius);
+}
+
+// Light falls from the top left: what is pressed in has its shadow there, inside of its frame.
+void PaintInnerShadow(cairo_t* context, const LayoutRectangle& place, int frame) {
+    cairo_save(context);
+    PathOf(context, place);
+    cairo_clip(context);
+    cairo_set_source_rgba(context, 0, 0, 0, 0.4);
+    cairo_rectangle(context, place.x + frame, place.y + frame, place.width - 2 * frame, 2);
+    cairo_rectangle(context, place.x + frame, place.y + frame + 2, 2, place.height - 2 * frame - 2);
+    cairo_fill(context);
+    cairo_restore(context);
+}
+
+void PaintDropShadow(cairo_t* context, const LayoutRectangle& place) {
+    cairo_set_source_rgba(context, 0, 0, 0, 0.16);
+    CairoShapes::RoundRectangle(context, place.x + 0.5, place.y + 1.5, place.width - 0.5, place.height - 1,
+                                Radius);
+    cairo_fill(context);
+}
+
+} // namespace
+
+void GraphNodePainter::Paint(cairo_t* context, const ZOLGraphNode& node, const LayoutRectangle& place,
+                             Detail detail) {
+    if (node.getDecorationVisibility())
+        PaintBody(context, node, place, detail);
+    if (HasSign(GraphPalette::At(node.getColor())))
+        PaintSign(context, node, place, detail);
+    if (detail == WithoutText)
+        return;
+    if (const LayoutRectangle icon = IconPlace(node, place); icon.width > 0)
+        GraphIcons::Draw(context, PixmapBaseName(node.getPixmap()), icon.x, icon.y);
+    PaintText(context, node, place);
+}
+
+void GraphNodePainter::PaintBody(cairo_t* context, const ZOLGraphNode& node, const LayoutRectangle& place,
+                                 Detail detail) {
+    const ThemeColour body = Body(node);
+    if (detail == WithoutText) {
+        CairoShapes::Fill(context, place, body.Mixed(Theme::Text, node.getHighlight() ? 0.5 : 0.1));
+        return;
+    }
+    if (!node.isShadowIn())
+        PaintDropShadow(context, place);
+    PathOf(context, place);
+    CairoShapes::SetColour(context, body);
+    cairo_fill(context);
+    const bool isHighlighted = node.getHighlight() != 0;
+    if (node.isShadowIn())
+        PaintInnerShadow(context, place, isHighlighted ? 2 : 1);
+    const double inset = isHighlighted ? 1 : 0.5;
+    CairoShapes::RoundRectangle(context, place.x + inset, place.y + inset, place.width - 2 * inset,
+                                place.height - 2 * inset, Radius - inset + 0.5);
+    CairoShapes::SetColour(
+        context,
+        isHighlighted ? Theme::Text : Saturated(GraphPalette::At(node.getColor())).Mixed(Theme::Text, 0.35));
+    cairo_set_line_width(context, 2 * inset);
+    cairo_stroke(context);
+    if (!node.getCurrent())
+        return;
+    cairo_save(context);
+    PathOf(context, place);
+    cairo_clip(context);
+    CairoShapes::Fill(context, {place.x, place.y, 4, place.height}, Theme::Text);
+    cairo_restore(context);
+}
+
+void GraphNodePainter::PaintSign(cairo_t* context, const ZOLGraphNode& node, const LayoutRectangle& place,
+                                 Detail detail) {
+    const GraphColour& colour = GraphPalette::At(node.getColor());
+    const ThemeColour full = Saturated(colour);
+    const int width = _text.CharacterWidth() + BorderOf(node) + 1;
+    const int inset = !node.getDecorationVisibility() ? 0 : node.getHighlight() ? 2 : 1;
+    cairo_save(context);
+    PathOf(context, place);
+    cairo_clip(context);
+    CairoShapes::Fill(
+        context, {place.x + place.width - width, place.y + inset, width - inset, place.height - 2 * inset},
+        full);
+    cairo_restore(context);
+    if (detail == WithoutText)
+        return;
+    CairoShapes::SetColour(context, full.Luminance() > 0.3 ? Theme::Text : White);
+    const int y = place.y + (place.height - _text.LineHeight()) / 2;
+    const double x =
+        place.x + place.width - width + (width - inset - _text.Width(colour.sign, TextPainter::Bold)) / 2.0;
+    _text.Draw(context, colour.sign, x, y, TextPainter::Bold);
+}
+
+void GraphNodePainter::PaintText(cairo_t* context, const ZOLGraphNode& node, const LayoutRectangle& place) {
+    const std::string_view text = node.getText().Bytes();
+    const int border = BorderOf(node);
+    const int x = place.x + border + (node.HasPixmap() ? GraphDrawing::IconRoom : 0);
+    int y = place.y + border;
+    CairoShapes::SetColour(context, Theme::Text);
+    for (std::size_t begin = 0, end = 0; end != std::string_view::npos; begin = end + 1) {
+        end = text.find('\n', begin);
+        _text.Draw(context, text.substr(begin, end - begin), x, y);
+        y += _text.LineHeight();
+    }
+}
+
+LayoutRectangle GraphNodePainter::IconPlace(const ZOLGraphNode& node, const LayoutRectangle& place) const {
+    if (!node.HasPixmap())
+        return {};
+    const int border = BorderOf(node);
+    return {place.x + border, place.y + border + (_text.LineHeight() - GraphIcons::Size) / 2,
+            GraphIcons::Size, GraphIcons::Size};
+}
+
+} // namespace trellis

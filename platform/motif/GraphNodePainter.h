@@ -1,0 +1,34 @@
+#pragma once
+
+#include "motif/TextPainter.h"
+#include "toolkit/GraphPalette.h"
+#include "toolkit/LayoutTypes.h"
+
+class ZOLGraphNode;
+
+namespace trellis {
+
+// GraphNodePainter: draws one node of a graph into the room that the drawing gave it. Each state has a form
+// of its own besides its colour:
+//   colour      the sign of the palette on a strip at the right end
+//   highlight   a thick dark frame
+//   shadow in   an inner shadow along top and left, as of something pressed
+//   current     a dark bar at the left end
+class GraphNodePainter {
+public:
+    explicit GraphNodePainter(TextPainter& text) : _text(text) {}
+
+    enum Detail { Full, WithoutText };
+    void Paint(cairo_t* context, const ZOLGraphNode& node, const LayoutRectangle& place, Detail detail);
+    // Where the pixmap stands; no width for a node without one.
+    LayoutRectangle IconPlace(const ZOLGraphNode& node, const LayoutRectangle& place) const;
+
+private:
+    void PaintBody(cairo_t* context, const ZOLGraphNode& node, const LayoutRectangle& place, Detail detail);
+    void PaintSign(cairo_t* context, const ZOLGraphNode& node, const LayoutRectangle& place, Detail detail);
+    void PaintText(cairo_t* context, const ZOLGraphNode& node, const LayoutRectangle& place);
+
+    TextPainter& _text;
+};
+
+} // namespace trellis

@@ -1,0 +1,209 @@
+#include "motif/MotifGraphPeer.h"
+
+#include "motif/MotifView.h"
+#include "toolkit/ZOLGraphNode.h"
+#include "toolkit/ZOLGraphViewer.h"
+
+#include <X11/keysym.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace trellis {
+
+namespace {
+
+constexpr int WheelPixels = 48;
+constexpr double ZoomStep = 1.2;
+
+struct StepKey {
+    KeySym symbol;
+    GraphStep step;
+};
+
+constexpr StepKey StepKeys[] = {
+    {XK_Left, GraphStep::Left},      {XK_KP_Left, GraphStep::Left}, {XK_Right, GraphStep::Right},
+    {XK_KP_Right, GraphStep::Right}, {XK_Up, GraphStep::Up},        {XK_KP_Up, GraphStep::Up},
+    {XK_Down, GraphStep::Down},      {XK_KP_Down, GraphStep::Down},
+};
+
+bool IsPlus(KeySym symbol) {
+    return symbol == XK_plus || symbol == XK_KP_Add;
+}
+
+bool IsMinus(KeySym symbol) {
+    return symbol == XK_minus || symbol == XK_KP_Subtract;
+}
+
+int Rounded(double value) {
+    return static_cast<int>(std::lround(value));
+}
+
+} // namespace
+
+MotifGraphPeer::MotifGraphPeer(MotifView& view, ZOLGraphViewer& viewer)
+    : MotifCanvasPeer(view, viewer), _viewer(viewer), _painter(Text()) {}
+
+const TextMeasure& MotifGraphPeer::Measure() const {
+    return GetView().GetTextMeasure();
+}
+
+LayoutSize MotifGraphPeer::ContentSize() {
+    const LayoutSize size = _viewer.GetDrawing(Measure()).Size();
+    return {static_cast<int>(std::ceil(size.width * _frame.zoom)) + 2 * GraphFrame::Margin,
+            static_cast<int>(std::ceil(size.height * _frame.zoom)) + 2 * GraphFrame::Margin};
+}
+
+void MotifGraphPeer::Fit(LayoutSize canvas) {
+    _frame.area = canvas;
+    _viewer.SetShownArea(_frame.ShownArea());
+    _frame.viewPoint = _viewer.GetViewPoint(Measure());
+}
+
+MotifCanvasPeer::Range MotifGraphPeer::HorizontalRange() {
+    return {_frame.viewPoint.x, _frame.ShownArea().width, _viewer.GetDrawing(Measure()).Size().width,
+            Rounded(WheelPixels / _frame.zoom)};
+}
+
+MotifCanvasPeer::Range MotifGraphPeer::VerticalRange() {
+    return {_frame.viewPoint.y, _frame.ShownArea().height, _viewer.GetDrawing(Measure()).Size().height,
+            Rounded(WheelPixels / _frame.zoom)};
+}
+
+void MotifGraphPeer::ScrolledTo(bool isHorizontal, int first) {
+    LayoutPoint point = _frame.viewPoint;
+    (isHorizontal ? point.x : point.y) = first;
+    MoveViewPoint(point);
+    Repaint();
+}
+
+// However far the user moves, a part of the drawing stays in sight.
+void MotifGraphPeer::MoveViewPoint(LayoutPoint point) {
+    const LayoutSize size = _viewer.GetDrawing(Measure()).Size();
+    const LayoutSize shown = _frame.ShownArea();
+    point.x = std::clamp(point.x, 0, std::max(size.width - shown.width, 0));
+    point.y = std::clamp(point.y, 0, std::max(size.height - shown.height, 0));
+    _viewer.SetViewPoint(point);
+    _frame.viewPoint = point;
+}
+
+GraphPicture MotifGraphPeer::Picture() {
+    return {_viewer.GetDrawing(Measure()),
+            _viewer.GetGraph()->GetLayoutStyle(),
+            _frame,
+            _viewer.GetBackgroundColor(),
+            HasKeyboard() ? _viewer.GetFocusNode() : nullptr,
+            _viewer.IsSensitive()};
+}
+
+void MotifGraphPeer::Paint(cairo_t* context) {
+    _painter.Paint(context, Picture());
+}
+
+LayoutRectangle MotifGraphPeer::GetMenuPlace() const {
+    const GraphDrawing& drawing = _viewer.GetDrawing(Measure());
+    const int position = drawing.Position(_viewer.GetFocusNode());
+    if (position < 0)
+        return {GraphFrame::Margin, GraphFrame::Margin, 1, 1};
+    const LayoutRectangle& place = drawing.Nodes()[static_cast<std::size_t>(position)].place;
+    const int x = Rounded((place.x - _frame.viewPoint.x) * _frame.zoom) + GraphFrame::Margin;
+    const int y = Rounded((place.y + place.height - _frame.viewPoint.y) * _frame.zoom) + GraphFrame::Margin;
+    return {std::clamp(x, 0, CanvasSize().width), std::clamp(y, 0, CanvasSize().height), 1, 1};
+}
+
+void MotifGraphPeer::Pressed(const Mouse& mouse) {
+    if (mouse.button == Button3)
+        GetView().NoteGesture(mouse.rootPlace.x, mouse.rootPlace.y);
+    if (ZOLGraphNode* node = _painter.HitAt(Picture(), mouse.place).node; node && mouse.button != Button2)
+        PressedNode(mouse, node);
+    else
+        PressedBackground(mouse);
+}
+
+void MotifGraphPeer::PressedNode(const Mouse& mouse, ZOLGraphNode* node) {
+    GetView().Changed(_viewer); // the focus moves, even where nobody listens
+    if (mouse.button == Button1)
+        _viewer.UserClickNode(node, (mouse.state & (ShiftMask | ControlMask)) != 0);
+    else if (mouse.button == Button3)
+        _viewer.UserContextNode(node);
+}
+
+void MotifGraphPeer::PressedBackground(const Mouse& mouse) {
+    if (mouse.button == Button3) {
+        _viewer.UserContextBackground();
+        return;
+    }
+    _isDragging = true;
+    _dragStart = mouse.place;
+    _dragViewPoint = _frame.viewPoint;
+    if (mouse.button == Button1)
+        _viewer.UserClickBackground();
+}
+
+void MotifGraphPeer::Moved(const Mouse& mouse) {
+    if (!_isDragging)
+        return;
+    MoveViewPoint({_dragViewPoint.x - Rounded((mouse.place.x - _dragStart.x) / _frame.zoom),
+                   _dragViewPoint.y - Rounded((mouse.place.y - _dragStart.y) / _frame.zoom)});
+    Refresh();
+}
+
+void MotifGraphPeer::Released(const Mouse&) {
+    _isDragging = false;
+}
+
+void MotifGraphPeer::Wheeled(const Mouse& mouse, int steps, bool isHorizontal) {
+    if ((mouse.state & ControlMask) != 0) {
+        Zoom(mouse.place, steps < 0 ? ZoomStep : 1 / ZoomStep);
+        return;
+    }
+    const int way = Rounded(steps * WheelPixels / _frame.zoom);
+    MoveViewPoint(
+        {_frame.viewPoint.x + (isHorizontal ? way : 0), _frame.viewPoint.y + (isHorizontal ? 0 : way)});
+    Refresh();
+}
+
+void MotifGraphPeer::Zoom(LayoutPoint place, double factor) {
+    _frame = _frame.ZoomedAt(place, _frame.zoom * factor);
+    // Steps up and down meet the plain size again, where texts are sharpest.
+    if (std::abs(_frame.zoom - 1) < 0.01)
+        _frame.zoom = 1;
+    _viewer.SetShownArea(_frame.ShownArea());
+    MoveViewPoint(_frame.viewPoint);
+    Refresh();
+}
+
+void MotifGraphPeer::ZoomByKey(double factor) {
+    Zoom({CanvasSize().width / 2, CanvasSize().height / 2}, factor);
+}
+
+void MotifGraphPeer::Typed(const Key& key) {
+    if ((key.state & ControlMask) == 0) {
+        TypedPlain(key);
+        return;
+    }
+    if (IsPlus(key.symbol))
+        ZoomByKey(ZoomStep);
+    else if (IsMinus(key.symbol))
+        ZoomByKey(1 / ZoomStep);
+    else if (key.symbol == XK_0 || key.symbol == XK_KP_0)
+        ZoomByKey(1 / _frame.zoom);
+}
+
+void MotifGraphPeer::TypedPlain(const Key& key) {
+    for (const StepKey& stepKey : StepKeys)
+        if (stepKey.symbol == key.symbol) {
+            _viewer.UserMoveFocus(stepKey.step);
+            return;
+        }
+    if (key.symbol == XK_space && (key.state & ShiftMask) != 0)
+        _viewer.UserContextFocus();
+    else if (key.symbol == XK_space)
+        _viewer.UserClickFocus();
+    else if (IsPlus(key.symbol))
+        _viewer.UserOpenFocus();
+    else if (IsMinus(key.symbol))
+        _viewer.UserCloseFocus();
+}
+
+} // namespace trellis

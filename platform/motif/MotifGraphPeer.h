@@ -1,0 +1,52 @@
+#pragma once
+
+#include "motif/GraphPainter.h"
+#include "motif/MotifCanvasPeer.h"
+
+class ZOLGraphViewer;
+
+namespace trellis {
+
+// MotifGraphPeer: shows a graph. How far it is magnified is kept here alone.
+//
+// Mouse: the left button selects, with Ctrl or Shift extended; the third opens the context of a node; the
+// background is dragged by the left or middle button; the wheel scrolls, with Shift sideways, with Ctrl it
+// magnifies. Keys: arrows move; Space selects, with Shift rejects; + and - open and close; with Ctrl +, - and 0
+// magnify.
+class MotifGraphPeer : public MotifCanvasPeer {
+public:
+    MotifGraphPeer(MotifView& view, ZOLGraphViewer& viewer);
+    LayoutRectangle GetMenuPlace() const override;
+
+protected:
+    LayoutSize ContentSize() override;
+    void Fit(LayoutSize canvas) override;
+    Range HorizontalRange() override;
+    Range VerticalRange() override;
+    void ScrolledTo(bool isHorizontal, int first) override;
+    void Paint(cairo_t* context) override;
+    void Pressed(const Mouse& mouse) override;
+    void Moved(const Mouse& mouse) override;
+    void Released(const Mouse& mouse) override;
+    void Typed(const Key& key) override;
+    void Wheeled(const Mouse& mouse, int steps, bool isHorizontal) override;
+
+private:
+    const TextMeasure& Measure() const;
+    GraphPicture Picture();
+    void MoveViewPoint(LayoutPoint point);
+    void Zoom(LayoutPoint place, double factor);
+    void ZoomByKey(double factor);
+    void PressedNode(const Mouse& mouse, ZOLGraphNode* node);
+    void PressedBackground(const Mouse& mouse);
+    void TypedPlain(const Key& key);
+
+    ZOLGraphViewer& _viewer;
+    GraphPainter _painter;
+    GraphFrame _frame;
+    bool _isDragging = false;
+    LayoutPoint _dragStart;     // pixel
+    LayoutPoint _dragViewPoint; // at the start
+};
+
+} // namespace trellis

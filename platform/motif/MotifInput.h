@@ -1,0 +1,43 @@
+#pragma once
+
+#include "motif/MotifNative.h"
+
+#include <array>
+
+class ZOLDialog;
+
+namespace trellis {
+
+class MotifPeer;
+class MotifView;
+
+// MotifInput: what is done with an input event before the native widgets see it. Windows behind a question get
+// none; Return, Escape and the menu key mean the same in every window and widget. It hooks into the native
+// dispatch, so that it works in loops of hosts as well.
+class MotifInput {
+public:
+    explicit MotifInput(MotifView& view);
+    ~MotifInput();
+    MotifInput(const MotifInput&) = delete;
+    MotifInput& operator=(const MotifInput&) = delete;
+
+private:
+    static constexpr std::array<int, 6> types = {KeyPress,      KeyRelease,  ButtonPress,
+                                                 ButtonRelease, EnterNotify, LeaveNotify};
+
+    static Boolean Dispatch(XEvent* event);
+    // Whether the event goes no further.
+    bool Takes(XEvent& event);
+    bool TakesKey(XKeyEvent& event, ZOLDialog& window);
+    bool OpensMenu(ZOLDialog& focus);
+    // The window of ours in whose shell the event happened; null when it was in a menu or an unfolded list.
+    ZOLDialog* WindowOf(const XEvent& event) const;
+    // The dialog that has the keyboard in the shell of a window, else the window.
+    ZOLDialog& KeyboardIn(ZOLDialog& window) const;
+
+    MotifView& _view;
+    std::array<XtEventDispatchProc, types.size()> _native = {};
+    static inline MotifInput* _instance = nullptr;
+};
+
+} // namespace trellis

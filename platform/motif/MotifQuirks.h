@@ -1,0 +1,61 @@
+#pragma once
+
+#include "motif/MotifNative.h"
+#include "motif/Theme.h"
+#include "toolkit/LayoutTypes.h"
+
+#include <string>
+
+class ZOLUnicodeString;
+
+namespace trellis {
+
+// MotifQuirks: everything about the native widgets that is not as one would expect, in one place.
+class MotifQuirks {
+public:
+    // Native widgets call back for values that the program sets, also for the same value. While one of these
+    // lives, no callback of a widget reaches the toolkit.
+    class QuietScope {
+    public:
+        QuietScope() { ++_depth; }
+        ~QuietScope() { --_depth; }
+        QuietScope(const QuietScope&) = delete;
+        QuietScope& operator=(const QuietScope&) = delete;
+
+    private:
+        friend class MotifQuirks;
+        static inline int _depth = 0;
+    };
+    static bool IsQuiet() { return QuietScope::_depth > 0; }
+
+    // Resource names are string literals, yet the native interface wants writable ones.
+    static char* Name(const char* literal) { return const_cast<char*>(literal); }
+
+    // A native string, freed with this. Lines are separated by line feeds; a tab is a tab.
+    class Text {
+    public:
+        explicit Text(const ZOLUnicodeString& text);
+        ~Text() { XmStringFree(_string); }
+        Text(const Text&) = delete;
+        Text& operator=(const Text&) = delete;
+        XmString Get() const { return _string; }
+
+    private:
+        XmString _string;
+    };
+
+    // Sets the text of a label or button, unless it has it: setting the same text flickers.
+    static void SetLabel(Widget label, const ZOLUnicodeString& text);
+    // The pixel of a colour on the screen of a widget; black where the screen has no more colours.
+    static Pixel Colour(Widget widget, ThemeColour colour);
+    // Where a widget stands in its parent.
+    static LayoutRectangle PlaceOf(Widget widget);
+    // Greys a widget or not, when it is not so already.
+    static void SetSensitive(Widget widget, bool isSensitive);
+    // Moves and sizes a widget; sizes of 0, which the server refuses, become 1.
+    static void Configure(Widget widget, int x, int y, int width, int height);
+    // Manages or unmanages, when it is not so already.
+    static void SetManaged(Widget widget, bool isManaged);
+};
+
+} // namespace trellis

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "motif/MotifPeer.h"
+
+class ZOLDlgToggleButton;
+
+namespace trellis {
+
+// MotifToggleButtonPeer: shows a check or radio button.
+class MotifToggleButtonPeer : public MotifPeer {
+public:
+    MotifToggleButtonPeer(MotifView& view, ZOLDlgToggleButton& button);
+    void Mirror() override;
+    Widget GetFocusWidget() const override { return GetWidget(); }
+
+protected:
+    Widget Build(Widget parent) override;
+
+private:
+    void Toggled(Widget, XtPointer);
+
+    ZOLDlgToggleButton& _button;
+};
+
+} // namespace trellis
