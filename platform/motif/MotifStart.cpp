@@ -103,7 +103,9 @@ MotifView* MotifView::Start(int& argc, char** argv, ZOLGYRError& error) {
                                      XtNumber(options), &argc, argv);
     if (!display) {
         XtDestroyApplicationContext(context);
-        error.Set(noDisplay, 0, {wanted});
+        error.Set(noDisplay, 0);
+        if (!wanted.empty())
+            error.Add(wanted);
         return nullptr;
     }
     const Theme theme = ChooseTheme(display);
