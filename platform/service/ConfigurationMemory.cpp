@@ -77,6 +77,11 @@ void ConfigurationMemory::ReadAllParts() {
     End();
 }
 
+bool ConfigurationMemory::HasPartAtHand(const std::string& uuid) const {
+    const auto found = _parts.find(uuid);
+    return found != _parts.end() && found->second->IsAlive();
+}
+
 RecordOf<ConfigurablePartRow> ConfigurationMemory::FindPart(const std::string& uuid, ZOLGYRError& error) {
     auto found = _parts.find(uuid);
     if (found == _parts.end() && ++_partMisses == MissesBeforeReadingAll) {

@@ -27,6 +27,8 @@ public:
     bool IsOpen() const { return _corporate->GetState() != StoredObject::State::Gone; }
     Workspace& Store() { return *_workspace; }
 
+    // Whether FindPart would find the part of this very identifier without asking the store.
+    bool HasPartAtHand(const std::string& uuid) const;
     // The record that makes a part configurable, or null when it is not.
     RecordOf<ConfigurablePartRow> FindPart(const std::string& uuid, ZOLGYRError& error);
     void Added(const RecordOf<ConfigurablePartRow>& part);

@@ -69,7 +69,8 @@ void ZOLQRDCfgManager::GetConfigurableObject(const ZOLDMInstance& part, ZOLQRDCo
 
 void ZOLQRDCfgManager::GetConfigurableObject(const _SEQUENCE_octet& part, ZOLQRDConfigurableObject& object,
                                              ZOLGYRError& error) const {
-    if (PartConfiguration(*_memory).Find(TextOf(part), error))
+    // Lists ask this once per row, so the usual answer comes before the identifier is brought into its one form.
+    if (_memory->HasPartAtHand(part.Text()) || PartConfiguration(*_memory).Find(TextOf(part), error))
         object = ZOLQRDConfigurableObject(part);
 }
 
