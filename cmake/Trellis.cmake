@@ -84,6 +84,7 @@ function(trellis_test name)
         gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST PROPERTIES LABELS journey ENVIRONMENT "${environment}")
     else()
         add_test(NAME ${name} COMMAND ${target} --gtest_shuffle --gtest_brief=1)
-        set_tests_properties(${name} PROPERTIES LABELS ${ARG_LABEL} ENVIRONMENT "${environment}" TIMEOUT 300)
+        set_tests_properties(${name} PROPERTIES LABELS ${ARG_LABEL} TIMEOUT 300
+            ENVIRONMENT "${environment};LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/leaks.supp:print_suppressions=0")
     endif()
 endfunction()
