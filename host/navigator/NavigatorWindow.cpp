@@ -226,7 +226,6 @@ void NavigatorWindow::Leave() {
         if (answer == AnswerSave && !Save())
             return;
     }
-    _hasLeft = true;
     RequestDelayedDestruction();
 }
 

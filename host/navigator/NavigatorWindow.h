@@ -20,9 +20,8 @@ public:
     explicit NavigatorWindow(HostSession& session);
 
     ZOLString GetResourceFilename(int level) const override;
-    // The window that is open is asked to close: with unsaved changes it asks first.
+    // Closes the window; with unsaved changes it asks first.
     void Leave();
-    bool HasLeft() const { return _hasLeft; }
 
 private:
     void BuildSearch();
@@ -56,7 +55,6 @@ private:
     ZOLDlgPushButton* _save;
     ZOLDlgPushButton* _discard;
     ZOLDlgPushButton* _copy;
-    bool _hasLeft = false;
 };
 
 } // namespace trellis
