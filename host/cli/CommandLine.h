@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/ExitCode.h"
+#include "session/ExitCode.h"
 
 namespace trellis {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cli/ExitCode.h"
-#include "cli/HostSession.h"
+#include "session/ExitCode.h"
+#include "session/HostSession.h"
 
 #include <CLI/App.hpp>
 

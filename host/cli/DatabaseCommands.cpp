@@ -1,7 +1,7 @@
 #include "cli/Commands.h"
 
-#include "cli/MessageOutput.h"
 #include "model/DatabaseSession.h"
+#include "session/MessageOutput.h"
 #include "site/ZOLIQrdSCManager.h"
 
 #include <fmt/format.h>

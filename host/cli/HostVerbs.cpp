@@ -1,12 +1,12 @@
 #include "cli/HostVerbs.h"
 
-#include "cli/ModuleOperation.h"
-#include "cli/PartWord.h"
-#include "cli/StructureTree.h"
 #include "model/DatabaseSession.h"
 #include "model/ZOLDMClipboard.h"
 #include "panels/ZOLGYRDlgError.h"
 #include "service/ZOLQRDCfgManager.h"
+#include "session/ModuleOperation.h"
+#include "session/PartWord.h"
+#include "session/StructureTree.h"
 #include "site/ZOLIQrdSCManager.h"
 
 #include <memory>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cli/HostSession.h"
 #include "cli/ScriptVerb.h"
+#include "session/HostSession.h"
 
 namespace trellis {
 

@@ -1,8 +1,8 @@
 #include "cli/Commands.h"
 
-#include "cli/MessageOutput.h"
 #include "model/StructureImport.h"
 #include "service/DictionaryImport.h"
+#include "session/MessageOutput.h"
 
 #include <fmt/format.h>
 

@@ -1,6 +1,6 @@
 #include "cli/Commands.h"
 
-#include "cli/MessageOutput.h"
+#include "session/MessageOutput.h"
 #include "site/AdministratorKeys.h"
 #include "site/SiteAdministration.h"
 #include "site/ZOLIQrdServices.h"

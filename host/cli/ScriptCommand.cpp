@@ -2,9 +2,9 @@
 
 #include "cli/DriverVerbs.h"
 #include "cli/HostVerbs.h"
-#include "cli/MessageOutput.h"
 #include "cli/ScriptParser.h"
 #include "cli/ScriptRunner.h"
+#include "session/MessageOutput.h"
 
 #include <fmt/format.h>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "cli/ExitCode.h"
 #include "cli/ScriptParser.h"
 #include "cli/ScriptVerb.h"
+#include "session/ExitCode.h"
 #include "toolkit/ZOLUserDriver.h"
 
 #include <iosfwd>

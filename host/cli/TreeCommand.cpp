@@ -1,9 +1,9 @@
 #include "cli/Commands.h"
 
-#include "cli/MessageOutput.h"
-#include "cli/PartWord.h"
-#include "cli/StructureTree.h"
 #include "model/PartQuery.h"
+#include "session/MessageOutput.h"
+#include "session/PartWord.h"
+#include "session/StructureTree.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,7 +1,7 @@
 #include "navigator/NavigatorCommand.h"
 
-#include "cli/MessageOutput.h"
 #include "navigator/NavigatorWindow.h"
+#include "session/MessageOutput.h"
 #include "toolkit/CallbackScope.h"
 #include "toolkit/MotifToolkit.h"
 

@@ -1,6 +1,6 @@
 #include "navigator/NavigatorNode.h"
 
-#include "cli/StructureTree.h"
+#include "session/StructureTree.h"
 
 namespace trellis {
 

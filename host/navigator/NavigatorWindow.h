@@ -1,8 +1,8 @@
 #pragma once
 
-#include "cli/HostSession.h"
-#include "cli/ModuleOperation.h"
 #include "navigator/StructureGraph.h"
+#include "session/HostSession.h"
+#include "session/ModuleOperation.h"
 #include "toolkit/ZOLDlgContextualMenu.h"
 #include "toolkit/ZOLDlgEditor.h"
 #include "toolkit/ZOLDlgLabel.h"

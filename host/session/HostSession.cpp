@@ -1,8 +1,8 @@
-#include "cli/HostSession.h"
+#include "session/HostSession.h"
 
-#include "cli/MessageOutput.h"
-#include "cli/ModuleLoader.h"
 #include "model/DatabaseSession.h"
+#include "session/MessageOutput.h"
+#include "session/ModuleLoader.h"
 #include "site/ZOLIQrdSCManager.h"
 #include "toolkit/CallbackScope.h"
 #include "values/ResourceFolders.h"

@@ -1,4 +1,4 @@
-#include "cli/StructureTree.h"
+#include "session/StructureTree.h"
 
 #include "service/ZOLQRDCfgManager.h"
 #include "values/ZOLGYRError.h"

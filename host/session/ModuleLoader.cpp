@@ -1,4 +1,4 @@
-#include "cli/ModuleLoader.h"
+#include "session/ModuleLoader.h"
 
 #include "entry/ZOLDictionary.h"
 #include "values/ZOLGYRError.h"

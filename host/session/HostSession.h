@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cli/ExitCode.h"
 #include "entry/ZOLIQRDCfgInterfaces.h"
+#include "session/ExitCode.h"
 #include "values/ZOLGYRError.h"
 
 #include <memory>

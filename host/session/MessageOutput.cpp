@@ -1,4 +1,4 @@
-#include "cli/MessageOutput.h"
+#include "session/MessageOutput.h"
 
 #include <algorithm>
 #include <cstdlib>

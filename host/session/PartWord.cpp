@@ -1,4 +1,4 @@
-#include "cli/PartWord.h"
+#include "session/PartWord.h"
 
 #include "model/PartQuery.h"
 #include "values/ZOLGYRError.h"

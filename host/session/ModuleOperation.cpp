@@ -1,4 +1,4 @@
-#include "cli/ModuleOperation.h"
+#include "session/ModuleOperation.h"
 
 #include "panels/ZOLGYRDlgError.h"
 #include "toolkit/CallbackScope.h"
