@@ -53,12 +53,12 @@ function(trellis_platform_folder name)
     set_property(GLOBAL APPEND PROPERTY TRELLIS_PLATFORM_LIBRARIES ${ARG_LIBRARIES})
 endfunction()
 
-# trellis_test(name SOURCES ... [LABEL unit|journey] [INTERNAL] [LIBRARIES ...])
+# trellis_test(name SOURCES ... [LABEL unit|journey] [INTERNAL | FOLDERS ...] [LIBRARIES ...])
 # INTERNAL tests look behind the contracts: they link the objects of the platform, whose inner classes the
-# shared library hides. All others link the library as a host does. Tests of label unit run in one process,
+# shared library hides; FOLDERS names the few that are enough. All others link the library as a host does. Tests of label unit run in one process,
 # shuffled; each test case of label journey runs in a process of its own, so that the statics of the module start fresh.
 function(trellis_test name)
-    cmake_parse_arguments(ARG "INTERNAL" "LABEL" "SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(ARG "INTERNAL" "LABEL" "SOURCES;LIBRARIES;FOLDERS" ${ARGN})
     if(NOT ARG_LABEL)
         set(ARG_LABEL unit)
     endif()
@@ -68,7 +68,12 @@ function(trellis_test name)
     target_include_directories(${target} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
     target_compile_definitions(${target} PRIVATE TRELLIS_SOURCE_DIR="${CMAKE_SOURCE_DIR}"
         TRELLIS_PROGRAM="$<TARGET_FILE:trellis>")
-    if(ARG_INTERNAL)
+    if(ARG_FOLDERS)
+        foreach(folder ${ARG_FOLDERS})
+            target_sources(${target} PRIVATE $<TARGET_OBJECTS:trellis-${folder}>)
+        endforeach()
+        target_include_directories(${target} PRIVATE ${CMAKE_SOURCE_DIR}/platform)
+    elseif(ARG_INTERNAL)
         get_property(objects GLOBAL PROPERTY TRELLIS_PLATFORM_OBJECTS)
         get_property(libraries GLOBAL PROPERTY TRELLIS_PLATFORM_LIBRARIES)
         target_sources(${target} PRIVATE ${objects})

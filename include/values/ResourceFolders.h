@@ -13,7 +13,7 @@ namespace trellis {
 class TRELLIS_API ResourceFolders {
 public:
     static std::string Root();
-    // The folders that exist, in the order of the search.
+    // The folders that exist, in the order of the search; one that comes or goes is seen within a second.
     static std::vector<std::string> Search();
     // The files of that name, in the order of the search. Names with a folder in them are not looked for.
     static std::vector<std::string> FindAll(const std::string& fileName);

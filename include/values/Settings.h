@@ -10,7 +10,7 @@
 
 namespace trellis {
 
-enum class SettingKind { Logical, Text };
+enum class SettingKind { Logical, Text, Number };
 // Who may set a key. Keys of the site are read from the files of system and site alone.
 enum class SettingAuthority { Anybody, Site };
 
@@ -37,6 +37,7 @@ struct SettingValue {
 //   60010  a file that exists cannot be read
 //   60011  a line that is neither empty, comment nor KEY = value, or that is no UTF-8
 //   60012  the value of a logical key is neither on nor off
+//   60015  the value of a key of numbers is no number; empty is as good as not declared
 // Warnings (display mode -1):
 //   60013  an unknown key; it is kept out
 //   60014  a key of the site, set by somebody else; it is ignored
@@ -66,6 +67,8 @@ public:
     bool IsOn(const std::string& key) const;
     // The number that a logical value stands for: on, true, yes are 1; off, false, no are 0; numbers themselves.
     static std::optional<int> LogicalNumber(const std::string& text);
+    // The number that a text is as a whole, with a point where it is no whole one, in any locale.
+    static std::optional<double> Number(const std::string& text);
 
     // Folder of the site's files (settings, resources, library); empty when no site is named.
     static std::string SiteFolder();

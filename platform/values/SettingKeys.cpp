@@ -6,6 +6,7 @@ namespace {
 
 constexpr auto Logical = SettingKind::Logical;
 constexpr auto Text = SettingKind::Text;
+constexpr auto Numeric = SettingKind::Number;
 constexpr auto Anybody = SettingAuthority::Anybody;
 constexpr auto Site = SettingAuthority::Site;
 
@@ -55,6 +56,9 @@ const std::vector<SettingKey>& Settings::Keys() {
         {"ZOLWVTA.QRD.UNCHECK_DELETE_MODIFICATION", Logical, "0", Anybody,
          "removals start unticked at a commit"},
         {"LANGUAGE", Text, "en", Anybody, "language of texts, a folder of the resources"},
+        {"FONT.SIZE", Numeric, "", Anybody,
+         "size of the font of the windows in points, from 6 to 40; empty: that of the X resources"},
+        {"FONT.FAMILY", Text, "", Anybody, "font of the windows; empty: that of the X resources"},
         {"DATABASE", Text, "", Site,
          "the database that everybody works on; empty: that of --database, or the user's own"},
         {"USER", Text, "", Site, "who is logged in; empty: the user of the operating system"},

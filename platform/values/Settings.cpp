@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cctype>
 #include <charconv>
+#include <cmath>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -20,6 +21,7 @@ constexpr int LineUnreadable = 60011;
 constexpr int NotLogical = 60012;
 constexpr int UnknownKey = 60013;
 constexpr int KeyOfTheSite = 60014;
+constexpr int NoNumber = 60015;
 
 ZOLGYRError Problem(int code, int mode, std::initializer_list<ZOLUnicodeString> parameters) {
     ZOLGYRError error;
@@ -132,6 +134,12 @@ void Settings::Declare(const std::string& name, const std::string& value, Settin
         problems.push_back(Problem(NotLogical, 0, {place, name, value}));
         return;
     }
+    if (key->kind == SettingKind::Number && value.empty())
+        return;
+    if (key->kind == SettingKind::Number && !Number(value)) {
+        problems.push_back(Problem(NoNumber, 0, {place, name, value}));
+        return;
+    }
     _values[name][origin] = SettingValue{value, origin, place};
 }
 
@@ -164,6 +172,14 @@ std::optional<int> Settings::LogicalNumber(const std::string& text) {
     int number = 0;
     const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
     if (word.empty() || error != std::errc() || end != word.data() + word.size())
+        return std::nullopt;
+    return number;
+}
+
+std::optional<double> Settings::Number(const std::string& text) {
+    double number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc() || end != text.data() + text.size() || !std::isfinite(number))
         return std::nullopt;
     return number;
 }

@@ -93,6 +93,18 @@ TEST_F(SettingsTest, AWrongLineIsToldWithItsPlaceAndTheRestIsRead) {
     EXPECT_EQ(_problems[0].GetCode(), 60010);
 }
 
+TEST_F(SettingsTest, ANumberIsOneAsAWholeAndAnEmptyOneDeclaresNothing) {
+    for (const char* wrong : {"large", "12 points", "1,5", "inf", "nan"})
+        Declare("FONT.SIZE", wrong, SettingOrigin::UserFile);
+    ASSERT_EQ(_problems.size(), 5U);
+    EXPECT_EQ(_problems[0].GetCode(), 60015);
+    EXPECT_FALSE(Settings::Current().Declared("FONT.SIZE"));
+    Declare("FONT.SIZE", "11.5", SettingOrigin::UserFile);
+    Declare("FONT.SIZE", "", SettingOrigin::Environment);
+    EXPECT_EQ(Settings::Current().Value("FONT.SIZE").text, "11.5");
+    EXPECT_EQ(_problems.size(), 5U);
+}
+
 TEST_F(SettingsTest, KeysOfTheSiteAreIgnoredElsewhereWithAWarning) {
     setenv(Settings::EnvironmentName("TRACE.SINK").c_str(), "/tmp/x", 1);
     Settings::Current().Load(_problems);
