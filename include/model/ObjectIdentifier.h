@@ -27,6 +27,9 @@ public:
     // machine and at all times. `kind` keeps names of different kinds of objects apart.
     static ObjectIdentifier Derived(std::string_view kind, std::string_view name);
 
+    // One that no object has: drawn at random.
+    static ObjectIdentifier Unique();
+
     bool IsEmpty() const { return _digits.empty(); }
     const std::string& Text() const { return _digits; }
     // 50 octets, or none.

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "values/ImportProblem.h"
 #include "values/ProgressCB.h"
 #include "values/TrellisApi.h"
-#include "values/ZOLGYRError.h"
 #include "values/ZOLUnicodeString.h"
 
 #include <string_view>
@@ -10,15 +10,9 @@
 
 namespace trellis {
 
-// One thing that is wrong with a file: where, and a number of 60210 to 60239 with its parameters.
-struct ImportProblem {
-    int line = 0; // from 1; 0 means the file as a whole
-    ZOLGYRError error;
-};
-
 // What an import found and did. Nothing was written when problems stand.
 struct ImportReport {
-    std::vector<ImportProblem> problems; // in order of lines
+    std::vector<ImportProblem> problems; // in order of lines; numbers 60210 to 60239
     int newParts = 0;
     int changedParts = 0;
     int newLinks = 0;

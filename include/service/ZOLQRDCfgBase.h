@@ -1,6 +1,7 @@
 #pragma once
 
 #include "service/ZOLIQrdCategory.h"
+#include "service/ZOLIQrdCompatibilityMatrix.h"
 #include "service/ZOLQRDConfigurableObject.h"
 #include "site/ZOLIQrdPEPeople.h"
 #include "values/ZOLCategory.h"
@@ -24,6 +25,10 @@ public:
     // owner is the user, or the organization is the user's, or there is no owner. There a privilege of 10 or
     // more stands for both; the corporate right has no such override. 0 for a null handle.
     static int DoIModifyIt(const ZOLIQrdCategory_var& category);
+    // The same for a rule and for a matrix, with the rights "ManageRules" and "ManageRulesCorp"; for a row by its
+    // matrix.
+    static int DoIModifyIt(const ZOLIQrdConfigRule_var& rule);
+    static int DoIModifyIt(const ZOLIQrdCompatibilityMatrix_var& matrix);
     // The current person; never null.
     static ZOLIQrdPEPeople_var WhoAmI();
     static ZOLUnicodeString GetUser();
@@ -43,6 +48,14 @@ public:
     static int CompareOptionName(const ZOLQRDCfgEffectivity* a, const ZOLQRDCfgEffectivity* b);
     static int CompareOptionName(const ZOLOption* a, const ZOLOption* b);
     static int CompareOptionName(ZOLOption* const* a, ZOLOption* const* b);
+    static int CompareRuleName(const ZOLIQrdConfigRule_var* a, const ZOLIQrdConfigRule_var* b);
+    static int CompareMatrixName(const ZOLIQrdCompatibilityMatrix_var* a,
+                                 const ZOLIQrdCompatibilityMatrix_var* b);
+    // Rows by the option in the column of one category, which is set before (its name; one for the whole process). A
+    // row without that cell comes first.
+    static void SetCompatibilityRuleCategForCompare(const ZOLUnicodeString& category);
+    static int CompareCompatibilityRuleNameForCateg(const ZOLIQrdConfigRule_var* a,
+                                                    const ZOLIQrdConfigRule_var* b);
     static int CompareOptionType(const ZOLQRDCfgEffectivity* a, const ZOLQRDCfgEffectivity* b);
     static int CompareOptionType(const ZOLOption* a, const ZOLOption* b);
     static int CompareOptionType(ZOLOption* const* a, ZOLOption* const* b);
@@ -55,6 +68,9 @@ public:
     // database.
     static void GetOptByName(const ZOLUnicodeString& name, ZOLListValZOLIQrdEffectivity_var& options);
     static void GetCategByName(const ZOLUnicodeString& name, ZOLListValZOLIQrdCategory_var& categories);
+    // The rules of all three types, in the whole database, that name such an option or category.
+    static void GetRuleWithOpt(const ZOLUnicodeString& name, ZOLListValZOLIQrdConfigRule_var& rules);
+    static void GetRuleWithCateg(const ZOLUnicodeString& name, ZOLListValZOLIQrdConfigRule_var& rules);
 
     // The mask of allowed effectivity types (as in ZOLQRDCfgManager::ModifyEffTypeForPart), 0 when it was
     // never set; of several parts, what any of them allows.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "service/ZOLIQrdCategory.h"
+#include "service/ZOLIQrdCompatibilityMatrix.h"
 #include "service/ZOLIQrdConfigItem.h"
 #include "service/ZOLQRDConfigurableObject.h"
 
@@ -61,7 +62,7 @@ public:
     void GetDictionary(const _SEQUENCE_octet& part, ZOLIQrdConfigItem_var& dictionary) const;
     // The one that all parts share; null only when the store cannot be read.
     ZOLIQrdConfigItem_var GetCorporateDictionary() const;
-    // Removes a part's dictionary with all that is in it. Effectivities on links keep the names of its
+    // Removes a part's dictionary with all that is in it, rules and matrices too. Effectivities on links keep the names of its
     // options. 20265; 20904 when there is none. Right "DeleteOptionDictionary".
     void DeleteDictionary(const ZOLDMInstance& part, ZOLGYRError& error);
     // Forgets what memory holds of a dictionary, unsaved changes too; the next access reads anew. Handles
@@ -93,6 +94,41 @@ public:
     void RemoveCategoryFromDictionary(const ZOLIQrdCategory_var& category, ZOLGYRError& error);
     // Also out of its category and of the defaults, if it is still there. 60403 for an effectivity on links.
     void RemoveOptionFromDictionary(const ZOLIQrdEffectivity_var& option, ZOLGYRError& error);
+
+    // Rules and matrices. Adding and removing need the right "ManageRules" at the part's site, in the corporate
+    // dictionary "ManageRulesCorp"; removing also the ownership that DoIModifyIt asks for (60402: name, owner). What is
+    // added belongs to the current user and organization. Names of rules are at most 40 characters and may be empty,
+    // those of matrices have at least one; else 60400 (name). Texts are in the words of the user's language and are not
+    // checked.
+    //
+    // 50075 when a rule of this type has the name: then its holder comes back, and the caller may clear the code. A
+    // row (ZOLCompatibilityRuleType) that joins the same options as one that is there, in any matrix, gives null and
+    // 50082.
+    ZOLIQrdConfigRule_var AddConfigRuleToDictionary(const ZOLIQrdConfigItem_var& dictionary,
+                                                    const ZOLUnicodeString& name,
+                                                    const ZOLUnicodeString& text, ZOLConfigRuleType type,
+                                                    const ZOLUnicodeString& description, ZOLGYRError& error);
+    // The same without a look at what is there: for callers who removed the holder before.
+    ZOLIQrdConfigRule_var CreateConfigRuleToDictionary(const ZOLIQrdConfigItem_var& dictionary,
+                                                       const ZOLUnicodeString& name,
+                                                       const ZOLUnicodeString& text, ZOLConfigRuleType type,
+                                                       const ZOLUnicodeString& description,
+                                                       ZOLGYRError& error);
+    // A row also out of its matrix.
+    void RemoveConfigRuleFromDictionary(const ZOLIQrdConfigRule_var& rule, ZOLGYRError& error);
+    // Rules of all three types. The number is 1.
+    void GetConfigRulesFromDictionary(const ZOLIQrdConfigItem_var& dictionary,
+                                      ZOLListValZOLIQrdConfigRule_var& rules, int = 1) const;
+    // Without columns and rows. 50076 when the name is taken: then its holder comes back.
+    ZOLIQrdCompatibilityMatrix_var AddCompatibilityMatrixToDictionary(const ZOLIQrdConfigItem_var& dictionary,
+                                                                      const ZOLUnicodeString& name,
+                                                                      const ZOLUnicodeString& description,
+                                                                      ZOLGYRError& error);
+    // With all its rows.
+    void RemoveCompatibilityMatrixFromDictionary(const ZOLIQrdCompatibilityMatrix_var& matrix,
+                                                 ZOLGYRError& error);
+    void GetCompatibilityMatricesFromDictionary(const ZOLIQrdConfigItem_var& dictionary,
+                                                ZOLListValZOLIQrdCompatibilityMatrix_var& matrices) const;
 
 private:
     friend class trellis::ConfigurationMemory;

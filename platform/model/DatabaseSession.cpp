@@ -1,6 +1,7 @@
 #include "model/DatabaseSession.h"
 
 #include "model/EventDelivery.h"
+#include "model/LinksUnderEdit.h"
 #include "model/ObjectIdentifier.h"
 #include "model/ZOLDMClipboard.h"
 #include "model/ZOLDMInstance.h"
@@ -12,13 +13,19 @@ namespace trellis {
 
 namespace {
 
+// What stands for objects of the database before.
+void ForgetObjects() {
+    ZOLDMClipboard::SetObjects({});
+    LinksUnderEdit::Forget();
+}
+
 bool Use(ZOLGYRError& error, const std::string& url,
          std::unique_ptr<StoreSession> (*open)(const std::string&)) {
     try {
         auto workspace = std::make_unique<Workspace>(open(url), &LoggedInUser);
         DeliverEventsOf(*workspace);
         Workspace::MakeCurrent(std::move(workspace));
-        ZOLDMClipboard::SetObjects({});
+        ForgetObjects();
         return true;
     } catch (const StoreFailure& failure) {
         failure.Into(error);
@@ -55,6 +62,10 @@ const char* KindName(RowKind kind) {
                                             "option of a package",
                                             "attribute",
                                             "default option",
+                                            "matrix",
+                                            "column of a matrix",
+                                            "rule",
+                                            "reference of a rule",
                                             "effectivity of a link",
                                             "person",
                                             "role",
@@ -95,7 +106,7 @@ bool DatabaseSession::Open(const ZOLUnicodeString& url, ZOLGYRError& error) {
 
 void DatabaseSession::Close() {
     Workspace::MakeCurrent(nullptr);
-    ZOLDMClipboard::SetObjects({});
+    ForgetObjects();
 }
 
 bool DatabaseSession::IsOpen() {

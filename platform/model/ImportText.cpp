@@ -1,7 +1,5 @@
 #include "model/ImportText.h"
 
-#include <unicode/utf8.h>
-
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
@@ -14,9 +12,6 @@ namespace {
 constexpr int Unreadable = 60202;
 constexpr int HasProblems = 60203;
 constexpr int TooLarge = 60211;
-constexpr int NoUtf8 = 60212;
-
-constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
 struct FaultNumber {
     CsvReader::Fault fault;
@@ -30,12 +25,7 @@ constexpr FaultNumber faultNumbers[] = {{CsvReader::Fault::UnclosedQuote, 60213}
 } // namespace
 
 void ImportText::Note(Problems& problems, int line, int number, const std::vector<std::string>& parameters) {
-    ImportProblem problem;
-    problem.line = line;
-    problem.error.Set(number, 0);
-    for (const std::string& parameter : parameters)
-        problem.error.Add(ZOLUnicodeString(parameter));
-    problems.push_back(std::move(problem));
+    problems.push_back(ImportProblem::Of(line, number, parameters));
 }
 
 bool ImportText::Refuse(const ZOLUnicodeString& name, Problems& problems, ZOLGYRError& error) {
@@ -66,25 +56,6 @@ bool ImportText::ReadFile(const ZOLUnicodeString& path, std::size_t largest, std
 
 StructureImport::Form ImportText::FormOf(const ZOLUnicodeString& path) {
     return path.Bytes().ends_with(".json") ? StructureImport::Form::Json : StructureImport::Form::Csv;
-}
-
-std::string_view ImportText::Checked(std::string_view text, Problems& problems) {
-    if (text.starts_with(ByteOrderMark))
-        text.remove_prefix(ByteOrderMark.size());
-    int line = 1;
-    const auto length = static_cast<std::int64_t>(text.size());
-    for (std::int64_t at = 0; at < length;) {
-        const std::int64_t before = at;
-        UChar32 character = 0;
-        U8_NEXT(text.data(), at, length, character);
-        line += character == '\n';
-        if (character >= 0)
-            continue;
-        Note(problems, line, NoUtf8, {std::to_string(before + 1)});
-        const std::size_t lineEnd = text.find('\n', static_cast<std::size_t>(before));
-        at = lineEnd == std::string_view::npos ? length : static_cast<std::int64_t>(lineEnd);
-    }
-    return text;
 }
 
 bool ImportText::CheckRow(const CsvReader::Row& row, Problems& problems) {

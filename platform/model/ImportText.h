@@ -28,8 +28,6 @@ public:
     // JSON when the name ends in ".json", else CSV.
     static StructureImport::Form FormOf(const ZOLUnicodeString& path);
 
-    // Passes over a byte order mark and notes each line that is no UTF-8.
-    static std::string_view Checked(std::string_view text, Problems& problems);
     // False when the row is faulty, which is noted.
     static bool CheckRow(const CsvReader::Row& row, Problems& problems);
 };

@@ -1,5 +1,6 @@
 #include "model/ObjectIdentifier.h"
 
+#include <openssl/rand.h>
 #include <openssl/sha.h>
 
 #include <algorithm>
@@ -12,6 +13,18 @@ namespace {
 
 constexpr char digits[] = "0123456789abcdef";
 
+using DigestOctets = std::array<unsigned char, SHA256_DIGEST_LENGTH>;
+
+// As many hexadecimal digits as an identifier has, of the first octets.
+std::string Digits(const DigestOctets& octets) {
+    std::string text;
+    for (std::size_t i = 0; i < ObjectIdentifier::Length / 2; ++i) {
+        text += digits[octets[i] >> 4];
+        text += digits[octets[i] & 15];
+    }
+    return text;
+}
+
 // The digit in lower case, or 0 for any other character.
 char Digit(char character) {
     const char lower =
@@ -20,8 +33,8 @@ char Digit(char character) {
 }
 
 // Identifiers derived from names rest on this digest: databases hold them, so it may never be exchanged.
-std::array<unsigned char, SHA256_DIGEST_LENGTH> Digest(const std::string& text) {
-    std::array<unsigned char, SHA256_DIGEST_LENGTH> digest{};
+DigestOctets Digest(const std::string& text) {
+    DigestOctets digest{};
     SHA256(reinterpret_cast<const unsigned char*>(text.data()), text.size(), digest.data());
     return digest;
 }
@@ -44,14 +57,15 @@ ObjectIdentifier ObjectIdentifier::Derived(std::string_view kind, std::string_vi
     std::string text(kind);
     text += '\0';
     text += name;
-    ObjectIdentifier identifier;
-    for (const unsigned char octet : Digest(text)) {
-        if (identifier._digits.size() == Length)
-            break;
-        identifier._digits += digits[octet >> 4];
-        identifier._digits += digits[octet & 15];
-    }
-    return identifier;
+    return ObjectIdentifier(Digits(Digest(text)));
+}
+
+ObjectIdentifier ObjectIdentifier::Unique() {
+    DigestOctets drawn{};
+    // Without chance two links could get one identifier, and the database would take neither.
+    if (RAND_bytes(drawn.data(), static_cast<int>(drawn.size())) != 1)
+        ContractBreach("ObjectIdentifier::Unique", "the system gives no random numbers");
+    return ObjectIdentifier(Digits(drawn));
 }
 
 ObjID ObjectIdentifier::Flat() const {

@@ -5,6 +5,7 @@
 #include "model/StructureReaders.h"
 #include "model/StructureWriter.h"
 #include "store/Workspace.h"
+#include "values/Utf8Check.h"
 
 namespace trellis {
 
@@ -30,7 +31,7 @@ bool StructureImport::ReadText(std::string_view text, Form form, const ZOLUnicod
         error.Set(60201);
         return false;
     }
-    text = ImportText::Checked(text, report.problems);
+    text = CheckedUtf8(text, report.problems);
     if (!report.problems.empty())
         return ImportText::Refuse(name, report.problems, error);
     const StructureFile file = form == Form::Json ? ReadStructureJson(text, report.problems)

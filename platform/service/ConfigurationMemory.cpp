@@ -4,6 +4,8 @@
 #include "service/StoredCategory.h"
 #include "service/StoredConfigItem.h"
 #include "service/StoredEffectivity.h"
+#include "service/StoredMatrix.h"
+#include "service/StoredRule.h"
 #include "values/FailureTrace.h"
 
 namespace trellis {
@@ -146,10 +148,21 @@ ItemContent* ConfigurationMemory::Content(const RecordOf<ConfigItemRow>& item, Z
     return content.get();
 }
 
+// What rules name is only written and searched, and so is in memory only while it is unsaved.
+std::vector<std::shared_ptr<StoredObject>> ConfigurationMemory::RecordsOf(const ItemContent& content) {
+    std::vector<std::shared_ptr<StoredObject>> records = content.AllRecords();
+    for (const auto& object : _workspace->Unsaved()) {
+        const auto* reference = dynamic_cast<const StoredRecord<RuleReferenceRow>*>(object.get());
+        if (reference && reference->Row().configItem == content.Item()->Id())
+            records.push_back(object);
+    }
+    return records;
+}
+
 void ConfigurationMemory::Unload(const RecordOf<ConfigItemRow>& item) {
     FailureTrace trace("ConfigurationMemory::Unload"); // what cannot be read is not in memory either
     if (ItemContent* content = Content(item, trace))
-        for (const auto& record : content->AllRecords())
+        for (const auto& record : RecordsOf(*content))
             _workspace->Unload(*record);
     _contents.erase(item->Id());
     if (item->GetState() != StoredObject::State::Clean)
@@ -169,6 +182,16 @@ ZOLIQrdCategory_var ConfigurationMemory::Handle(const RecordOf<CategoryRow>& cat
 ZOLIQrdEffectivity_var ConfigurationMemory::Handle(const RecordOf<EffectivityRow>& effectivity,
                                                    const RecordOf<ConfigItemRow>& item) {
     return effectivity ? new StoredEffectivity(weak_from_this(), effectivity, item) : nullptr;
+}
+
+ZOLIQrdConfigRule_var ConfigurationMemory::Handle(const RecordOf<ConfigRuleRow>& rule,
+                                                  const RecordOf<ConfigItemRow>& item) {
+    return rule ? new StoredRule(weak_from_this(), rule, item) : nullptr;
+}
+
+ZOLIQrdCompatibilityMatrix_var ConfigurationMemory::Handle(const RecordOf<CompatibilityMatrixRow>& matrix,
+                                                           const RecordOf<ConfigItemRow>& item) {
+    return matrix ? new StoredMatrix(weak_from_this(), matrix, item) : nullptr;
 }
 
 } // namespace trellis

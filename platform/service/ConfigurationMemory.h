@@ -1,7 +1,9 @@
 #pragma once
 
 #include "service/ItemContent.h"
+#include "service/RuleCache.h"
 #include "service/ZOLIQrdCategory.h"
+#include "service/ZOLIQrdCompatibilityMatrix.h"
 #include "service/ZOLIQrdConfigItem.h"
 #include "service/ZOLQRDCfgManager.h"
 
@@ -41,8 +43,13 @@ public:
     std::string SiteOf(const std::string& uuid);
     // What is in an item; null and a code when it cannot be read.
     ItemContent* Content(const RecordOf<ConfigItemRow>& item, ZOLGYRError& error);
+    // Every record of a content but the item, dead ones included, with those that content does not hold.
+    std::vector<std::shared_ptr<StoredObject>> RecordsOf(const ItemContent& content);
     // Forgets the content of an item, with its unsaved changes.
     void Unload(const RecordOf<ConfigItemRow>& item);
+
+    // The rule sets that were compiled last.
+    RuleCache& KnownRules() { return _rules; }
 
     // Changes of records go through here, each between Begin and End, so that what others did to the store in
     // between is noticed, and what the service did itself costs nothing.
@@ -54,6 +61,9 @@ public:
     ZOLIQrdCategory_var Handle(const RecordOf<CategoryRow>& category, const RecordOf<ConfigItemRow>& item);
     ZOLIQrdEffectivity_var Handle(const RecordOf<EffectivityRow>& effectivity,
                                   const RecordOf<ConfigItemRow>& item);
+    ZOLIQrdConfigRule_var Handle(const RecordOf<ConfigRuleRow>& rule, const RecordOf<ConfigItemRow>& item);
+    ZOLIQrdCompatibilityMatrix_var Handle(const RecordOf<CompatibilityMatrixRow>& matrix,
+                                          const RecordOf<ConfigItemRow>& item);
 
 private:
     void ReadAllParts();
@@ -63,6 +73,7 @@ private:
     std::unordered_map<std::string, RecordOf<ConfigurablePartRow>> _parts;
     std::unordered_map<std::string, RecordOf<ConfigItemRow>> _items; // by status letter and uuid
     std::unordered_map<std::int64_t, std::unique_ptr<ItemContent>> _contents;
+    RuleCache _rules;
     std::unordered_map<std::string, std::string> _sites; // by uuid of the part
     std::int64_t _known = 0;                             // ChangeCount after the service's own last change
     int _partMisses = 0;

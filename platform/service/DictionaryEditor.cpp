@@ -14,7 +14,6 @@ namespace {
 constexpr int OptionExists = 50073;
 constexpr int CategoryExists = 50074;
 constexpr int ForeignCategory = 60401;
-constexpr int NoDictionary = 60403;
 constexpr int NoSuchObject = 20904;
 
 void SetMissing(const StoredObject& object, ZOLGYRError& error) {
@@ -23,23 +22,11 @@ void SetMissing(const StoredObject& object, ZOLGYRError& error) {
 
 } // namespace
 
-ItemContent* DictionaryEditor::Content(const RecordOf<ConfigItemRow>& dictionary, ZOLGYRError& error) {
-    if (!dictionary->IsAlive()) {
-        RefuseDead(*dictionary, error);
-        return nullptr;
-    }
-    if (dictionary->Row().status != ConfigItemRow::Dictionary) {
-        error.Set(NoDictionary);
-        return nullptr;
-    }
-    return _memory.Content(dictionary, error);
-}
-
 void DictionaryEditor::GetCategories(const RecordOf<ConfigItemRow>& dictionary,
                                      ZOLListValZOLIQrdCategory_var& categories) {
     categories.RemoveAll();
     FailureTrace trace("DictionaryEditor::GetCategories");
-    ItemContent* content = dictionary ? Content(dictionary, trace) : nullptr;
+    ItemContent* content = DictionaryContent(_memory, dictionary, trace);
     if (!content)
         return;
     for (const auto& category : content->Categories())
@@ -49,7 +36,7 @@ void DictionaryEditor::GetCategories(const RecordOf<ConfigItemRow>& dictionary,
 void DictionaryEditor::GetOptions(const RecordOf<ConfigItemRow>& dictionary,
                                   ZOLListValZOLQRDCfgEffectivity& options, ZOLGYRError& error) {
     options.RemoveAll();
-    ItemContent* content = dictionary ? Content(dictionary, error) : nullptr;
+    ItemContent* content = DictionaryContent(_memory, dictionary, error);
     if (!content)
         return;
     for (const auto& option : content->Effectivities())
@@ -60,7 +47,7 @@ ZOLIQrdCategory_var DictionaryEditor::AddCategory(const RecordOf<ConfigItemRow>&
                                                   const ZOLUnicodeString& name,
                                                   const ZOLUnicodeString& description, int exclusivity,
                                                   int mandatory, ZOLGYRError& error) {
-    ItemContent* content = dictionary ? Content(dictionary, error) : nullptr;
+    ItemContent* content = DictionaryContent(_memory, dictionary, error);
     if (!content)
         return nullptr;
     if (const auto holder = content->CategoryOfName(name.Bytes())) {
@@ -85,7 +72,7 @@ ZOLIQrdEffectivity_var DictionaryEditor::AddOption(const RecordOf<ConfigItemRow>
                                                    const ZOLUnicodeString& name,
                                                    const ZOLUnicodeString& description, ZOLGYRError& error) {
     const auto* stored = dynamic_cast<const StoredCategory*>(category.Get());
-    ItemContent* content = dictionary && stored ? Content(dictionary, error) : nullptr;
+    ItemContent* content = stored ? DictionaryContent(_memory, dictionary, error) : nullptr;
     if (!content)
         return nullptr;
     if (stored->Record()->Row().configItem != dictionary->Id()) {
@@ -109,7 +96,7 @@ ZOLIQrdEffectivity_var DictionaryEditor::AddOption(const RecordOf<ConfigItemRow>
 
 void DictionaryEditor::RemoveCategory(const ZOLIQrdCategory_var& category, ZOLGYRError& error) {
     const auto* stored = dynamic_cast<const StoredCategory*>(category.Get());
-    ItemContent* content = stored ? Content(stored->Item(), error) : nullptr;
+    ItemContent* content = stored ? DictionaryContent(_memory, stored->Item(), error) : nullptr;
     if (!content)
         return;
     const auto record = content->Category(stored->Record()->Id());
@@ -121,7 +108,7 @@ void DictionaryEditor::RemoveCategory(const ZOLIQrdCategory_var& category, ZOLGY
 
 void DictionaryEditor::RemoveOption(const ZOLIQrdEffectivity_var& option, ZOLGYRError& error) {
     const auto* stored = dynamic_cast<const StoredEffectivity*>(option.Get());
-    ItemContent* content = stored ? Content(stored->Item(), error) : nullptr;
+    ItemContent* content = stored ? DictionaryContent(_memory, stored->Item(), error) : nullptr;
     if (!content)
         return;
     const auto record = content->Effectivity(stored->Record()->Id());

@@ -23,10 +23,6 @@ public:
     void RemoveOption(const ZOLIQrdEffectivity_var& option, ZOLGYRError& error);
 
 private:
-    // The content of a dictionary that stands; null and 60301 for a removed one, or the number of a failed
-    // read.
-    ItemContent* Content(const RecordOf<ConfigItemRow>& dictionary, ZOLGYRError& error);
-
     ConfigurationMemory& _memory;
 };
 

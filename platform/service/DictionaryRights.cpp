@@ -14,12 +14,22 @@ bool IsCorporate(const RecordOf<ConfigItemRow>& item) {
     return item->Id() == ConfigItemRow::CorporateId;
 }
 
-bool BelongsToUser(const CategoryRow& category) {
+template <class Row>
+bool BelongsToUser(const Row& row) {
     const ZOLIQrdPEPerson_var person = GetSecurityManager()->GetCurrentPerson();
     const std::string& organization = person->GetRole()->GetOrganization()->GetName().Bytes();
-    return category.owner.empty() || category.owner == person->GetName().Bytes() ||
-           (!organization.empty() && category.organization == organization) ||
+    return row.owner.empty() || row.owner == person->GetName().Bytes() ||
+           (!organization.empty() && row.organization == organization) ||
            person->GetPrivilege() >= OwnerOfAll;
+}
+
+// In the corporate dictionary the right alone decides.
+template <class Row>
+bool OwnsIn(const RecordOf<ConfigItemRow>& dictionary, const Row& row, ZOLGYRError& error) {
+    if (IsCorporate(dictionary) || BelongsToUser(row))
+        return true;
+    error.Set(OtherOwner, {ZOLUnicodeString(RowDescription<Row>::Display(row)), ZOLUnicodeString(row.owner)});
+    return false;
 }
 
 } // namespace
@@ -33,18 +43,38 @@ bool MayChangeDictionary(ConfigurationMemory& memory, const RecordOf<ConfigItemR
 
 bool OwnsCategory(ConfigurationMemory& memory, const RecordOf<ConfigItemRow>& dictionary,
                   const CategoryRow& category, ZOLGYRError& error) {
-    if (!MayChangeDictionary(memory, dictionary, error))
-        return false;
-    if (IsCorporate(dictionary) || BelongsToUser(category))
-        return true;
-    error.Set(OtherOwner, {ZOLUnicodeString(category.name), ZOLUnicodeString(category.owner)});
-    return false;
+    return MayChangeDictionary(memory, dictionary, error) && OwnsIn(dictionary, category, error);
 }
 
 bool MayChangeCategory(ConfigurationMemory& memory, const RecordOf<ConfigItemRow>& dictionary,
                        const CategoryRow& category, ZOLGYRError& error) {
     return RightTable::IsGranted("ManageOptionDictionaryCorp") ||
            OwnsCategory(memory, dictionary, category, error);
+}
+
+bool MayChangeRules(ConfigurationMemory& memory, const RecordOf<ConfigItemRow>& dictionary,
+                    ZOLGYRError& error) {
+    return IsCorporate(dictionary)
+               ? RightTable::Permits("ManageRulesCorp", {}, error)
+               : RightTable::Permits("ManageRules", memory.SiteOf(dictionary->Row().designUuid), error);
+}
+
+// A row has no owner of its own: it is that of its matrix.
+bool MayChangeRule(ConfigurationMemory& memory, const RecordOf<ConfigItemRow>& dictionary,
+                   const ConfigRuleRow& rule, ZOLGYRError& error) {
+    if (rule.matrix != 0) {
+        ItemContent* content = memory.Content(dictionary, error);
+        if (!content)
+            return false;
+        if (const auto matrix = content->Matrix(rule.matrix))
+            return MayChangeMatrix(memory, dictionary, matrix->Row(), error);
+    }
+    return MayChangeRules(memory, dictionary, error) && OwnsIn(dictionary, rule, error);
+}
+
+bool MayChangeMatrix(ConfigurationMemory& memory, const RecordOf<ConfigItemRow>& dictionary,
+                     const CompatibilityMatrixRow& matrix, ZOLGYRError& error) {
+    return MayChangeRules(memory, dictionary, error) && OwnsIn(dictionary, matrix, error);
 }
 
 bool MayChangeEffectivity(ConfigurationMemory& memory, const RecordOf<ConfigItemRow>& item,

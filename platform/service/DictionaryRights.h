@@ -17,6 +17,14 @@ bool MayChangeCategory(ConfigurationMemory& memory, const RecordOf<ConfigItemRow
 // Change an option, by its category. Effectivities on links are guarded by the operations that write them.
 bool MayChangeEffectivity(ConfigurationMemory& memory, const RecordOf<ConfigItemRow>& item,
                           const EffectivityRow& effectivity, ZOLGYRError& error);
+// Change a rule or a matrix, add one, take one away: the right on rules, and for one that is there its owner. `name` and
+// owners are those of the object; empty owners belong to nobody and bind nobody.
+bool MayChangeRules(ConfigurationMemory& memory, const RecordOf<ConfigItemRow>& dictionary,
+                    ZOLGYRError& error);
+bool MayChangeRule(ConfigurationMemory& memory, const RecordOf<ConfigItemRow>& dictionary,
+                   const ConfigRuleRow& rule, ZOLGYRError& error);
+bool MayChangeMatrix(ConfigurationMemory& memory, const RecordOf<ConfigItemRow>& dictionary,
+                     const CompatibilityMatrixRow& matrix, ZOLGYRError& error);
 // Whether right and owner allow it, without the way of the corporate dictionary.
 bool OwnsCategory(ConfigurationMemory& memory, const RecordOf<ConfigItemRow>& dictionary,
                   const CategoryRow& category, ZOLGYRError& error);

@@ -1,5 +1,8 @@
 #include "service/ItemContent.h"
 
+#include "rules/language/RuleText.h"
+#include "rules/language/RuleWriter.h"
+
 #include <algorithm>
 
 namespace trellis {
@@ -22,6 +25,21 @@ RecordOf<Row> FindLiving(const std::unordered_map<Key, RecordOf<Row>>& index, co
     return found != index.end() && found->second->IsAlive() ? found->second : nullptr;
 }
 
+std::string RuleKey(std::int64_t type, const std::string& name) {
+    return std::to_string(type) + name;
+}
+
+// The same for rows that join the same references. References as texts hold no line feed outside quotation marks, and
+// inside they are closed, so that the joined text is unambiguous.
+std::string RowKey(const std::string& text) {
+    std::vector<OptionReference> references = RuleText::References(text);
+    std::ranges::sort(references);
+    std::string key;
+    for (const OptionReference& reference : references)
+        key += RuleWriter::Reference(reference).Bytes() + "\n";
+    return key;
+}
+
 } // namespace
 
 std::unique_ptr<ItemContent> ItemContent::Read(Workspace& workspace, RecordOf<ConfigItemRow> item,
@@ -35,6 +53,10 @@ std::unique_ptr<ItemContent> ItemContent::Read(Workspace& workspace, RecordOf<Co
     for (const auto& record : workspace.Find(OfItem<EffectivityOptionRow>(item), reading))
         content->Added(record);
     for (const auto& record : workspace.Find(OfItem<EffectivityAttributeRow>(item), reading))
+        content->Added(record);
+    content->_matrices = workspace.Find(OfItem<CompatibilityMatrixRow>(item), reading);
+    content->_rules = workspace.Find(OfItem<ConfigRuleRow>(item), reading);
+    for (const auto& record : workspace.Find(OfItem<MatrixColumnRow>(item), reading))
         content->Added(record);
     if (reading.GetCode() == 0)
         return content;
@@ -71,6 +93,19 @@ std::vector<RecordOf<EffectivityAttributeRow>> ItemContent::AttributesOf(std::in
     return records;
 }
 
+std::vector<RecordOf<MatrixColumnRow>> ItemContent::ColumnsOf(std::int64_t matrix) {
+    auto records = Group(_columns, matrix);
+    SortByPosition(records);
+    return records;
+}
+
+std::vector<RecordOf<ConfigRuleRow>> ItemContent::RowsOf(std::int64_t matrix) {
+    MakeIndex();
+    auto records = Group(_rowsByMatrix, matrix);
+    SortByPosition(records);
+    return records;
+}
+
 RecordOf<CategoryRow> ItemContent::CategoryOfName(const std::string& name) {
     MakeIndex();
     return FindLiving(_categoriesByName, name);
@@ -89,6 +124,31 @@ RecordOf<CategoryRow> ItemContent::Category(std::int64_t id) {
 RecordOf<EffectivityRow> ItemContent::Effectivity(std::int64_t id) {
     MakeIndex();
     return FindLiving(_effectivitiesById, id);
+}
+
+RecordOf<ConfigRuleRow> ItemContent::RuleOfName(std::int64_t type, const std::string& name) {
+    MakeIndex();
+    return name.empty() ? nullptr : FindLiving(_rulesByName, RuleKey(type, name));
+}
+
+RecordOf<ConfigRuleRow> ItemContent::Rule(std::int64_t id) {
+    MakeIndex();
+    return FindLiving(_rulesById, id);
+}
+
+RecordOf<CompatibilityMatrixRow> ItemContent::MatrixOfName(const std::string& name) {
+    MakeIndex();
+    return FindLiving(_matricesByName, name);
+}
+
+RecordOf<CompatibilityMatrixRow> ItemContent::Matrix(std::int64_t id) {
+    MakeIndex();
+    return FindLiving(_matricesById, id);
+}
+
+RecordOf<ConfigRuleRow> ItemContent::RowLike(const std::string& text) {
+    MakeIndex();
+    return FindLiving(_rowsByContent, RowKey(text));
 }
 
 void ItemContent::Added(const RecordOf<CategoryRow>& record) {
@@ -115,6 +175,22 @@ void ItemContent::Added(const RecordOf<EffectivityAttributeRow>& record) {
     _attributes[record->Row().effectivity].push_back(record);
 }
 
+void ItemContent::Added(const RecordOf<ConfigRuleRow>& record) {
+    _rules.push_back(record);
+    if (_indexed)
+        Index(record);
+}
+
+void ItemContent::Added(const RecordOf<CompatibilityMatrixRow>& record) {
+    _matrices.push_back(record);
+    if (_indexed)
+        Index(record);
+}
+
+void ItemContent::Added(const RecordOf<MatrixColumnRow>& record) {
+    _columns[record->Row().matrix].push_back(record);
+}
+
 void ItemContent::MakeIndex() {
     if (_indexed)
         return;
@@ -123,9 +199,19 @@ void ItemContent::MakeIndex() {
     _categoriesById.clear();
     _effectivitiesById.clear();
     _optionsByCategory.clear();
+    _rulesByName.clear();
+    _rulesById.clear();
+    _rowsByContent.clear();
+    _matricesByName.clear();
+    _matricesById.clear();
+    _rowsByMatrix.clear();
     for (const auto& record : Categories())
         Index(record);
     for (const auto& record : Effectivities())
+        Index(record);
+    for (const auto& record : Rules())
+        Index(record);
+    for (const auto& record : Matrices())
         Index(record);
     _indexed = true;
 }
@@ -143,6 +229,22 @@ void ItemContent::Index(const RecordOf<EffectivityRow>& record) {
         _optionsByCategory[record->Row().category].push_back(record);
 }
 
+void ItemContent::Index(const RecordOf<ConfigRuleRow>& record) {
+    const ConfigRuleRow& row = record->Row();
+    _rulesById.insert_or_assign(record->Id(), record);
+    if (!row.name.empty())
+        _rulesByName.insert_or_assign(RuleKey(row.type, row.name), record);
+    if (row.type == ConfigRuleRow::MatrixRow)
+        _rowsByContent.insert_or_assign(RowKey(row.text), record);
+    if (row.matrix != 0)
+        _rowsByMatrix[row.matrix].push_back(record);
+}
+
+void ItemContent::Index(const RecordOf<CompatibilityMatrixRow>& record) {
+    _matricesByName.insert_or_assign(record->Row().name, record);
+    _matricesById.insert_or_assign(record->Id(), record);
+}
+
 std::vector<std::shared_ptr<StoredObject>> ItemContent::AllRecords() const {
     std::vector<std::shared_ptr<StoredObject>> all(_categories.begin(), _categories.end());
     all.insert(all.end(), _effectivities.begin(), _effectivities.end());
@@ -153,6 +255,9 @@ std::vector<std::shared_ptr<StoredObject>> ItemContent::AllRecords() const {
     append(_defaults);
     append(_packOptions);
     append(_attributes);
+    all.insert(all.end(), _rules.begin(), _rules.end());
+    all.insert(all.end(), _matrices.begin(), _matrices.end());
+    append(_columns);
     return all;
 }
 

@@ -1,5 +1,7 @@
 #include "service/ItemEditor.h"
 
+#include "service/RuleRowEditor.h"
+
 #include <algorithm>
 
 namespace trellis {
@@ -8,6 +10,7 @@ namespace {
 
 constexpr int BadName = 60400;
 constexpr int DeadObject = 60301;
+constexpr int NoDictionary = 60403;
 constexpr int LongestName = 40;
 
 template <class Row>
@@ -99,6 +102,21 @@ bool IsDictionaryName(const ZOLUnicodeString& name, ZOLGYRError& error) {
 
 void RefuseDead(const StoredObject& object, ZOLGYRError& error) {
     error.Set(DeadObject, {ZOLUnicodeString(object.DisplayName())});
+}
+
+ItemContent* DictionaryContent(ConfigurationMemory& memory, const RecordOf<ConfigItemRow>& dictionary,
+                               ZOLGYRError& error) {
+    if (!dictionary)
+        return nullptr;
+    if (!dictionary->IsAlive()) {
+        RefuseDead(*dictionary, error);
+        return nullptr;
+    }
+    if (dictionary->Row().status != ConfigItemRow::Dictionary) {
+        error.Set(NoDictionary);
+        return nullptr;
+    }
+    return memory.Content(dictionary, error);
 }
 
 RecordOf<CategoryRow> AddCategoryRow(ConfigurationMemory& memory, ItemContent& content, CategoryRow row) {
@@ -205,6 +223,10 @@ void RemoveCategoryRows(ConfigurationMemory& memory, ItemContent& content,
                         const RecordOf<CategoryRow>& category, ZOLGYRError& error) {
     for (const auto& option : content.OptionsOf(category->Id()))
         RemoveOwnRows(memory, content, option, error);
+    for (const auto& matrix : content.Matrices())
+        for (const auto& column : content.ColumnsOf(matrix->Id()))
+            if (column->Row().category == category->Id())
+                memory.Store().Remove(*column, error);
     RemoveAll(memory, content.DefaultsOf(category->Id()), error);
     memory.Store().Remove(*category, error);
     memory.End();
@@ -215,6 +237,9 @@ void RemoveItemRows(ConfigurationMemory& memory, ItemContent& content, ZOLGYRErr
     if (!FindLinks(memory, content, content.Effectivities(), links, error))
         return;
     RemoveAll(memory, links, error);
+    RemoveRuleRows(memory, content.Rules(), error);
+    for (const auto& matrix : content.Matrices())
+        RemoveMatrixRows(memory, content, matrix, error);
     for (const auto& category : content.Categories())
         RemoveCategoryRows(memory, content, category, error);
     for (const auto& effectivity : content.Effectivities())

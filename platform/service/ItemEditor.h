@@ -12,6 +12,11 @@ bool IsDictionaryName(const ZOLUnicodeString& name, ZOLGYRError& error);
 // 60301: the object was removed or unloaded.
 void RefuseDead(const StoredObject& object, ZOLGYRError& error);
 
+// The content of a dictionary that stands; null for none, with 60301 for a removed one, 60403 for an item that is none,
+// or the number of a failed read.
+ItemContent* DictionaryContent(ConfigurationMemory& memory, const RecordOf<ConfigItemRow>& dictionary,
+                               ZOLGYRError& error);
+
 RecordOf<CategoryRow> AddCategoryRow(ConfigurationMemory& memory, ItemContent& content, CategoryRow row);
 RecordOf<EffectivityRow> AddOptionRow(ConfigurationMemory& memory, ItemContent& content,
                                       const CategoryRow& category, const std::string& name,

@@ -2,10 +2,14 @@
 
 #include "model/ObjectIdentifier.h"
 #include "model/ZOLDMInstance.h"
+#include "rules/language/RuleText.h"
 #include "service/DictionaryEditor.h"
 #include "service/DictionaryRights.h"
 #include "service/PartConfiguration.h"
+#include "service/RuleEditor.h"
 #include "service/StoredCategory.h"
+#include "service/StoredMatrix.h"
+#include "service/StoredRule.h"
 #include "site/ZOLIQrdSCManager.h"
 #include "values/FailureTrace.h"
 
@@ -34,6 +38,16 @@ int CompareHandles(const Handle& a, const Handle& b, Getter getter) {
     return Compare(((*a).*getter)(), ((*b).*getter)());
 }
 
+std::string ComparedCategory; // of rows
+
+std::string ComparedOption(const ZOLIQrdConfigRule_var& row) {
+    if (row)
+        for (const trellis::OptionReference& cell : trellis::RuleText::References(row->GetRuleString()))
+            if (cell.category == ComparedCategory)
+                return cell.option;
+    return {};
+}
+
 } // namespace
 
 void ZOLQRDCfgBase::UnsetConfigurable(const ZOLDMInstance& part, ZOLGYRError& error) {
@@ -50,6 +64,20 @@ int ZOLQRDCfgBase::DoIModifyIt(const ZOLIQrdCategory_var& category) {
     ZOLGYRError refusal;
     const auto memory = stored ? ConfigurationMemory::Current(refusal) : nullptr;
     return memory && trellis::OwnsCategory(*memory, stored->Item(), stored->Record()->Row(), refusal);
+}
+
+int ZOLQRDCfgBase::DoIModifyIt(const ZOLIQrdConfigRule_var& rule) {
+    const auto* stored = dynamic_cast<const trellis::StoredRule*>(rule.Get());
+    ZOLGYRError refusal;
+    const auto memory = stored ? ConfigurationMemory::Current(refusal) : nullptr;
+    return memory && trellis::MayChangeRule(*memory, stored->Item(), stored->Record()->Row(), refusal);
+}
+
+int ZOLQRDCfgBase::DoIModifyIt(const ZOLIQrdCompatibilityMatrix_var& matrix) {
+    const auto* stored = dynamic_cast<const trellis::StoredMatrix*>(matrix.Get());
+    ZOLGYRError refusal;
+    const auto memory = stored ? ConfigurationMemory::Current(refusal) : nullptr;
+    return memory && trellis::MayChangeMatrix(*memory, stored->Item(), stored->Record()->Row(), refusal);
 }
 
 ZOLIQrdPEPeople_var ZOLQRDCfgBase::WhoAmI() {
@@ -90,6 +118,24 @@ int ZOLQRDCfgBase::CompareOptionName(const ZOLOption* a, const ZOLOption* b) {
 
 int ZOLQRDCfgBase::CompareOptionName(ZOLOption* const* a, ZOLOption* const* b) {
     return Compare((*a)->GetName(), (*b)->GetName());
+}
+
+int ZOLQRDCfgBase::CompareRuleName(const ZOLIQrdConfigRule_var* a, const ZOLIQrdConfigRule_var* b) {
+    return CompareHandles(*a, *b, &ZOLIQrdConfigRule::GetName);
+}
+
+int ZOLQRDCfgBase::CompareMatrixName(const ZOLIQrdCompatibilityMatrix_var* a,
+                                     const ZOLIQrdCompatibilityMatrix_var* b) {
+    return CompareHandles(*a, *b, &ZOLIQrdCompatibilityMatrix::GetName);
+}
+
+void ZOLQRDCfgBase::SetCompatibilityRuleCategForCompare(const ZOLUnicodeString& category) {
+    ComparedCategory = category.Bytes();
+}
+
+int ZOLQRDCfgBase::CompareCompatibilityRuleNameForCateg(const ZOLIQrdConfigRule_var* a,
+                                                        const ZOLIQrdConfigRule_var* b) {
+    return ComparedOption(*a).compare(ComparedOption(*b));
 }
 
 int ZOLQRDCfgBase::CompareOptionType(const ZOLQRDCfgEffectivity* a, const ZOLQRDCfgEffectivity* b) {
@@ -141,6 +187,22 @@ void ZOLQRDCfgBase::GetCategByName(const ZOLUnicodeString& name, ZOLListValZOLIQ
     for (const auto& category : found)
         if (const auto item = memory->ItemOfId(category->Row().configItem, trace))
             categories.Append(memory->Handle(category, item));
+}
+
+void ZOLQRDCfgBase::GetRuleWithOpt(const ZOLUnicodeString& name, ZOLListValZOLIQrdConfigRule_var& rules) {
+    rules.RemoveAll();
+    trellis::FailureTrace trace("ZOLQRDCfgBase::GetRuleWithOpt");
+    if (const auto memory = ConfigurationMemory::Current(trace))
+        trellis::RuleEditor(*memory).GetRulesNaming(&trellis::RuleReferenceRow::optionName, name.Bytes(),
+                                                    rules);
+}
+
+void ZOLQRDCfgBase::GetRuleWithCateg(const ZOLUnicodeString& name, ZOLListValZOLIQrdConfigRule_var& rules) {
+    rules.RemoveAll();
+    trellis::FailureTrace trace("ZOLQRDCfgBase::GetRuleWithCateg");
+    if (const auto memory = ConfigurationMemory::Current(trace))
+        trellis::RuleEditor(*memory).GetRulesNaming(&trellis::RuleReferenceRow::categoryName, name.Bytes(),
+                                                    rules);
 }
 
 void ZOLQRDCfgBase::GetAllowedEffectivityType(const ZOLQRDConfigurableObject& object, long& mask) {

@@ -4,6 +4,7 @@
 #include "model/ZOLDMInstance.h"
 #include "service/DictionaryEditor.h"
 #include "service/PartConfiguration.h"
+#include "service/RuleEditor.h"
 #include "service/StoredConfigItem.h"
 #include "values/FailureTrace.h"
 
@@ -12,6 +13,7 @@ using trellis::ConfigurationMemory;
 using trellis::DictionaryEditor;
 using trellis::PartConfiguration;
 using trellis::RecordOf;
+using trellis::RuleEditor;
 using trellis::StoredObject;
 
 namespace {
@@ -54,7 +56,7 @@ void ZOLQRDCfgManager::DiscardUnsaved(const ZOLIQrdConfigItem_var& item, ZOLGYRE
     trellis::ItemContent* content = record ? _memory->Content(record, error) : nullptr;
     if (!content)
         return;
-    std::vector<std::shared_ptr<StoredObject>> objects = content->AllRecords();
+    std::vector<std::shared_ptr<StoredObject>> objects = _memory->RecordsOf(*content);
     objects.push_back(record);
     for (const std::shared_ptr<StoredObject>& object : objects)
         if (object->GetState() != StoredObject::State::Clean)
@@ -142,4 +144,42 @@ void ZOLQRDCfgManager::RemoveCategoryFromDictionary(const ZOLIQrdCategory_var& c
 
 void ZOLQRDCfgManager::RemoveOptionFromDictionary(const ZOLIQrdEffectivity_var& option, ZOLGYRError& error) {
     DictionaryEditor(*_memory).RemoveOption(option, error);
+}
+
+ZOLIQrdConfigRule_var ZOLQRDCfgManager::AddConfigRuleToDictionary(
+    const ZOLIQrdConfigItem_var& dictionary, const ZOLUnicodeString& name, const ZOLUnicodeString& text,
+    ZOLConfigRuleType type, const ZOLUnicodeString& description, ZOLGYRError& error) {
+    return RuleEditor(*_memory).AddRule(RecordOfItem(dictionary), name, text, type, description, true, error);
+}
+
+ZOLIQrdConfigRule_var ZOLQRDCfgManager::CreateConfigRuleToDictionary(
+    const ZOLIQrdConfigItem_var& dictionary, const ZOLUnicodeString& name, const ZOLUnicodeString& text,
+    ZOLConfigRuleType type, const ZOLUnicodeString& description, ZOLGYRError& error) {
+    return RuleEditor(*_memory).AddRule(RecordOfItem(dictionary), name, text, type, description, false,
+                                        error);
+}
+
+void ZOLQRDCfgManager::RemoveConfigRuleFromDictionary(const ZOLIQrdConfigRule_var& rule, ZOLGYRError& error) {
+    RuleEditor(*_memory).RemoveRule(rule, error);
+}
+
+void ZOLQRDCfgManager::GetConfigRulesFromDictionary(const ZOLIQrdConfigItem_var& dictionary,
+                                                    ZOLListValZOLIQrdConfigRule_var& rules, int) const {
+    RuleEditor(*_memory).GetRules(RecordOfItem(dictionary), rules);
+}
+
+ZOLIQrdCompatibilityMatrix_var ZOLQRDCfgManager::AddCompatibilityMatrixToDictionary(
+    const ZOLIQrdConfigItem_var& dictionary, const ZOLUnicodeString& name,
+    const ZOLUnicodeString& description, ZOLGYRError& error) {
+    return RuleEditor(*_memory).AddMatrix(RecordOfItem(dictionary), name, description, error);
+}
+
+void ZOLQRDCfgManager::RemoveCompatibilityMatrixFromDictionary(const ZOLIQrdCompatibilityMatrix_var& matrix,
+                                                               ZOLGYRError& error) {
+    RuleEditor(*_memory).RemoveMatrix(matrix, error);
+}
+
+void ZOLQRDCfgManager::GetCompatibilityMatricesFromDictionary(
+    const ZOLIQrdConfigItem_var& dictionary, ZOLListValZOLIQrdCompatibilityMatrix_var& matrices) const {
+    RuleEditor(*_memory).GetMatrices(RecordOfItem(dictionary), matrices);
 }

@@ -4,6 +4,7 @@
 #include "store/ModelRows.h"
 #include "store/RowTable.h"
 
+#include <algorithm>
 #include <map>
 #include <unordered_map>
 
@@ -110,6 +111,23 @@ std::vector<std::int64_t> UnusedParts(StoreSession& session) {
     for (bool row = statement.Execute(); row; row = statement.Fetch())
         ids.push_back(id);
     return ids;
+}
+
+std::unordered_set<std::int64_t> PartsWithLinks(StoreSession& session, const std::vector<std::int64_t>& ids) {
+    constexpr std::size_t portion = 500;
+    std::unordered_set<std::int64_t> holders;
+    for (std::size_t from = 0; from < ids.size(); from += portion) {
+        std::string set;
+        for (std::size_t i = from; i < std::min(from + portion, ids.size()); ++i)
+            set += (set.empty() ? "" : ", ") + std::to_string(ids[i]);
+        std::int64_t id = 0;
+        StoreStatement statement(session,
+                                 "SELECT DISTINCT parent_id FROM link WHERE parent_id IN (" + set + ")");
+        statement.Into(id);
+        for (bool row = statement.Execute(); row; row = statement.Fetch())
+            holders.insert(id);
+    }
+    return holders;
 }
 
 std::vector<std::string> FindDamage(StoreSession& session) {

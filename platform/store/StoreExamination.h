@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -16,6 +17,9 @@ std::vector<std::pair<std::string, std::int64_t>> CountObjects(StoreSession& ses
 
 // Ids of parts that no link holds as child, in order.
 std::vector<std::int64_t> UnusedParts(StoreSession& session);
+
+// Those of the given ids of parts that hold links.
+std::unordered_set<std::int64_t> PartsWithLinks(StoreSession& session, const std::vector<std::int64_t>& ids);
 
 // One line per thing that is wrong: damage of the file, references to rows that are missing, names that occur twice
 // where they must not, parts that contain themselves. At most 100 lines of each sort.

@@ -4,6 +4,7 @@
 #include "store/ConfigurationRows.h"
 #include "store/IdentityMap.h"
 #include "store/ModelRows.h"
+#include "store/RuleRows.h"
 #include "store/SiteRows.h"
 #include "store/StoreFailure.h"
 #include "store/StoreQuery.h"

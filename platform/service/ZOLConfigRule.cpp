@@ -1,0 +1,3 @@
+#include "service/ZOLConfigRule.h"
+
+ZOLConfigRule::~ZOLConfigRule() = default;
