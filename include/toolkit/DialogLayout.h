@@ -19,10 +19,12 @@ class TextMeasure;
 // DialogLayout: where everything in a window stands, computed when somebody looks. Children stand below each
 // other or side by side with one spacing; in a column, a field with its title or with a label before it makes
 // one line of a form, whose labels are equally wide; the panes of a splitter share its room; the buttons of a
-// dialog stand in a row at the bottom, at its right end; what grows shares the room that is left.
+// dialog stand in a row at the bottom, at its right end; a menu bar takes the whole upper edge of its window; what
+// grows shares the room that is left.
 class TRELLIS_API DialogLayout {
 public:
-    // `size` is that of the window; where it is 0, or less than what the texts need, the natural one counts.
+    // `size` is that of the window; where it is 0, or less than what the texts need, the natural one counts. Of a
+    // container this is what it scrolls over.
     DialogLayout(const ZOLDialog& window, const TextMeasure& measure, LayoutSize size = {});
 
     LayoutSize GetSize() const { return _size; }
@@ -56,10 +58,11 @@ private:
     std::vector<Row> FormOf(const std::vector<const ZOLDialog*>& children) const;
     std::vector<Row> RowsOf(const ZOLDialog& holder) const;
     std::vector<int> ColumnWidths(const std::vector<Row>& rows);
-    Insets InsetsOf(const ZOLDialog& holder) const;
-    LayoutSize ButtonSize(const ZOLDlgDialog& dialog) const;
+    Insets InsetsOf(const ZOLDialog& holder);
+    LayoutSize MenuBarSize(const ZOLDialog& holder);
     LayoutSize ButtonRowSize(const ZOLDialog& holder) const;
     LayoutSize Natural(const ZOLDialog& dialog);
+    LayoutSize Bounded(const ZOLDialog& dialog, LayoutSize size) const;
     LayoutSize Natural(const Cell& cell);
     LayoutSize NaturalContent(const ZOLDialog& holder);
     LayoutSize NaturalRow(const Row& row, const std::vector<int>& columns);
@@ -71,6 +74,8 @@ private:
     void PlaceRow(const Row& row, const std::vector<int>& columns, const LayoutRectangle& area);
 
     const TextMeasure& _measure;
+    int _spacing; // pixels between neighbours
+    const ZOLDialog* _root;
     LayoutSize _size;
     LayoutRectangle _buttonRow;
     std::unordered_map<const ZOLDialog*, LayoutSize> _natural;

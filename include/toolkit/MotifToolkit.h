@@ -2,6 +2,8 @@
 
 #include "values/TrellisApi.h"
 
+#include <functional>
+
 class ZOLGYRError;
 
 namespace trellis {
@@ -14,6 +16,10 @@ public:
     // The options of X programs, and -fontSize and -fontFamily, are taken out of argc and argv. False with the
     // error 60150 and the name of the display when it cannot be opened; nothing is chosen then.
     static bool Start(int& argc, char** argv, ZOLGYRError& error);
+    // What is done when the connection to the display breaks. It runs once, in the middle of whatever touched the
+    // screen, touches no window itself, and answers the exit code with which the process then ends, without
+    // unwinding. At first: one line on the standard error and exit code 3.
+    static void WhenDisplayIsLost(std::function<int()> action);
     // Serves the windows until none is shown any more, or until Quit. Nothing without a display.
     static void Run();
     // Lets Run return after the callback that is served now.

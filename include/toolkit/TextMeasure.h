@@ -18,6 +18,8 @@ public:
     virtual int GetLineHeight() const;
     // Of a row of a list, with the space above and below its text.
     virtual int GetRowHeight() const;
+    // A distance of the plain size as it is now: distances follow the size of the font.
+    virtual int GetPixels(int plain) const;
 };
 
 } // namespace trellis

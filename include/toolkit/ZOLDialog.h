@@ -47,6 +47,10 @@ public:
     // The text of the widget: as set, else the text under "<name>.Title", else what its class falls back to.
     void SetTitle(const ZOLUnicodeString& title);
     ZOLUnicodeString GetTitle() const;
+    // What a user reads when the pointer rests on the dialog: as set, else the text under "<name>.ToolTip"; empty
+    // for none. An empty text that is set takes that of the resources away. Sends nothing.
+    void SetToolTip(const ZOLUnicodeString& text);
+    ZOLUnicodeString GetToolTip() const;
 
     // ZOLShown or ZOLHidden: the own flag, whatever the owners have. To show a dialog that is shown raises
     // it. Sends nothing.
@@ -140,6 +144,7 @@ private:
     int _visibility = ZOLShown;
     int _sensitivity = ZOLActive;
     std::optional<ZOLUnicodeString> _title;
+    std::optional<ZOLUnicodeString> _toolTip;
     trellis::LayoutHints _hints;
     ZOLNotification _visibilityNotification;
 };

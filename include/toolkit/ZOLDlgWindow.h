@@ -17,6 +17,10 @@ public:
     bool IsModal() const;
     bool StaysAboveFather() const;
 
+    // The size that it has on the screen, as its view tells; 0 by 0 without a view.
+    void SetShownSize(trellis::LayoutSize size) { _shownSize = size; }
+    trellis::LayoutSize GetShownSize() const { return _shownSize; }
+
     virtual ZOLUserResult UserClose();
 
     bool IsWindow() const override;
@@ -25,5 +29,6 @@ public:
     ZOLUnicodeString GetFallbackTitle() const override;
 
 private:
+    trellis::LayoutSize _shownSize;
     ZOLNotification _closeNotification;
 };

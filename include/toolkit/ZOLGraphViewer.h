@@ -40,6 +40,9 @@ public:
     // Moves the viewpoint so that the node stands in the middle of the area, once somebody looks. Nothing
     // happens for a node that is not drawn by then.
     void centre(ZOLGraphNode* node);
+    // Gives a node the focus of the keyboard, and moves the viewpoint no more than it takes to bring it into sight.
+    // Nothing happens for a node that is not drawn.
+    void reveal(ZOLGraphNode* node);
     // Marks that places have to be computed anew; costs nothing, and may be called after every change.
     void doLayout();
     // doLayout and update in one.
@@ -73,6 +76,10 @@ public:
     // Space and Shift with Space: click and context on the focus.
     ZOLUserResult UserClickFocus();
     ZOLUserResult UserContextFocus();
+    // Ctrl with Space: the extended click on the focus. Shift with an arrow: moves the focus and takes what it comes
+    // to; back over a node that stands out, it gives up the one that it leaves.
+    ZOLUserResult UserExtendFocus();
+    ZOLUserResult UserExtendTo(trellis::GraphStep step);
     // + and -: a click on the focus if its pixmap says that the branch is closed, or open.
     ZOLUserResult UserOpenFocus();
     ZOLUserResult UserCloseFocus();
@@ -90,6 +97,8 @@ private:
     void Send(ZOLGraphNotification& notification, ZOLGraphNode* node);
     void SendContext(ZOLGraphNotification& notification, ZOLGraphNode* node);
     ZOLUserResult ClickFocusWithPixmap(const char* pixmap);
+    // The node to which a step leads from the focus; null when there is none.
+    ZOLGraphNode* NodeAt(trellis::GraphStep step) const;
     void SetFocus(ZOLGraphNode* node);
     void FollowFocus(const trellis::GraphDrawing& drawing);
     void MoveToWanted(const trellis::GraphDrawing& drawing);

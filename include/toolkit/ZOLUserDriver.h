@@ -35,6 +35,9 @@ enum class ZOLUserKey {
     Plus,       // opens the branch of a node
     Minus,      // closes it
     ShiftSpace, // the other click on a node: rejects an option, opens the menu of others
+    CtrlSpace,  // the extended click on a node
+    ShiftUp,    // takes the next node, or gives up the last one on the way back
+    ShiftDown,
 };
 
 // ZOLUserDriver: does what a user can do, for tests, scripts and hosts. Nothing else: what a user could not
@@ -65,9 +68,10 @@ public:
     static ZOLDialog* Top();
 
     static void Press(ZOLDialog* button);
-    // Opens the contextual menu of a dialog, lets it build itself and presses the item at the path in it.
+    // Opens the contextual menu of a dialog, lets it build itself and presses the item at the path in it. In a
+    // menu bar the first step of the path names the menu: "Part/SetConfigurable".
     static void Menu(ZOLDialog* owner, const std::string& path);
-    // Opens it only, and answers its lines; the next verb closes it.
+    // Opens it only, and answers its lines; the next verb closes it. `owner` may be a menu of a menu bar itself.
     static std::vector<MenuLine> OpenMenu(ZOLDialog* owner);
     // Brings a check or radio button into a state; nothing is done when it is in it. A radio button cannot be
     // put off.

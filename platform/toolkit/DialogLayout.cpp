@@ -1,13 +1,16 @@
 #include "toolkit/DialogLayout.h"
 
+#include "toolkit/ButtonRowLayout.h"
 #include "toolkit/Growth.h"
 #include "toolkit/LayoutMetrics.h"
 #include "toolkit/TextMeasure.h"
 #include "toolkit/ZOLDlgCombo.h"
+#include "toolkit/ZOLDlgContainer.h"
 #include "toolkit/ZOLDlgDialog.h"
 #include "toolkit/ZOLDlgEditor.h"
 #include "toolkit/ZOLDlgFrame.h"
 #include "toolkit/ZOLDlgLabel.h"
+#include "toolkit/ZOLDlgMenuBar.h"
 #include "toolkit/ZOLDlgSplitter.h"
 #include "toolkit/ZOLDlgTabContainer.h"
 
@@ -17,8 +20,6 @@
 namespace trellis {
 
 namespace {
-
-constexpr int spacing = LayoutMetrics::spacing;
 
 bool IsField(const ZOLDialog& dialog) {
     return dynamic_cast<const ZOLDlgEditor*>(&dialog) || dynamic_cast<const ZOLDlgCombo*>(&dialog);
@@ -32,15 +33,16 @@ bool IsTabs(const ZOLDialog& dialog) {
     return dynamic_cast<const ZOLDlgTabContainer*>(&dialog);
 }
 
+// A menu bar stands apart, along the edge.
 std::vector<const ZOLDialog*> ChildrenWithRoom(const ZOLDialog& holder) {
     std::vector<const ZOLDialog*> children;
     for (const ZOLDialog* child : holder.GetChildren())
-        if (TakesRoom(*child))
+        if (TakesRoom(*child) && !dynamic_cast<const ZOLDlgMenuBar*>(child))
             children.push_back(child);
     return children;
 }
 
-int Gaps(std::size_t count) {
+int Gaps(std::size_t count, int spacing) {
     return count > 1 ? static_cast<int>(count - 1) * spacing : 0;
 }
 
@@ -48,9 +50,10 @@ int Sum(const std::vector<int>& parts) {
     return std::accumulate(parts.begin(), parts.end(), 0);
 }
 
-// Spreads the room that is left over those that grow; the first ones take the odd pixels.
+// Spreads the room that is left over those that grow; the first ones take the odd pixels. The room is without
+// the spaces between them.
 void Spread(std::vector<int>& sizes, const std::vector<bool>& grows, int room) {
-    int left = room - Sum(sizes) - Gaps(sizes.size());
+    int left = room - Sum(sizes);
     int count = static_cast<int>(std::count(grows.begin(), grows.end(), true));
     for (std::size_t i = 0; i < sizes.size() && left > 0; ++i) {
         if (!grows[i])
@@ -65,10 +68,12 @@ void Spread(std::vector<int>& sizes, const std::vector<bool>& grows, int room) {
 } // namespace
 
 DialogLayout::DialogLayout(const ZOLDialog& window, const TextMeasure& measure, LayoutSize size)
-    : _measure(measure) {
+    : _measure(measure), _spacing(LayoutMetrics(measure).Spacing()), _root(&window) {
     const LayoutSize natural = Natural(window);
     _size = {std::max(size.width, natural.width), std::max(size.height, natural.height)};
     Place(window, {0, 0, _size.width, _size.height});
+    if (const ZOLDlgMenuBar* bar = ZOLDlgMenuBar::Find(window))
+        _places[bar] = {0, 0, _size.width, Natural(*bar).height};
     if (const auto* dialog = dynamic_cast<const ZOLDlgDialog*>(&window))
         PlaceButtons(*dialog);
 }
@@ -136,24 +141,22 @@ std::vector<int> DialogLayout::ColumnWidths(const std::vector<Row>& rows) {
     return widths;
 }
 
-DialogLayout::Insets DialogLayout::InsetsOf(const ZOLDialog& holder) const {
+DialogLayout::Insets DialogLayout::InsetsOf(const ZOLDialog& holder) {
+    const LayoutMetrics metrics(_measure);
+    const int margin = metrics.WindowMargin();
     if (holder.IsWindow())
-        return {spacing, spacing, ButtonRowSize(holder).height + spacing};
+        return {margin, MenuBarSize(holder).height + margin, ButtonRowSize(holder).height + margin};
     if (IsTabs(holder))
-        return {spacing, _measure.GetLineHeight() + 2 * LayoutMetrics::textMargin + spacing, spacing};
+        return {_spacing, metrics.LineOfText() + _spacing, _spacing};
     const auto* frame = dynamic_cast<const ZOLDlgFrame*>(&holder);
     const int title = frame && frame->HasTitle() ? _measure.GetLineHeight() : 0;
-    const int border = frame && frame->HasBorder() ? spacing : 0;
+    const int border = frame && frame->HasBorder() ? _spacing : 0;
     return {border, border + title, border};
 }
 
-// All buttons of a dialog are as large as the largest.
-LayoutSize DialogLayout::ButtonSize(const ZOLDlgDialog& dialog) const {
-    int width = 0;
-    for (const ZOLDialogButton button : DialogButtons::Row)
-        if (dialog.GetButtons().At(button).isThere)
-            width = std::max(width, _measure.GetTextWidth(dialog.GetButtons().GetTitle(button, dialog)));
-    return {width + 4 * LayoutMetrics::textMargin, _measure.GetLineHeight() + 2 * LayoutMetrics::textMargin};
+LayoutSize DialogLayout::MenuBarSize(const ZOLDialog& holder) {
+    const ZOLDlgMenuBar* bar = ZOLDlgMenuBar::Find(holder);
+    return bar ? Natural(*bar) : LayoutSize();
 }
 
 // With the space above it; nothing in windows without buttons.
@@ -161,24 +164,17 @@ LayoutSize DialogLayout::ButtonRowSize(const ZOLDialog& holder) const {
     const auto* dialog = dynamic_cast<const ZOLDlgDialog*>(&holder);
     if (!dialog)
         return {};
-    const auto isThere = [dialog](ZOLDialogButton button) { return dialog->GetButtons().At(button).isThere; };
-    const auto count = std::count_if(DialogButtons::Row.begin(), DialogButtons::Row.end(), isThere);
-    const LayoutSize button = ButtonSize(*dialog);
-    return {static_cast<int>(count) * button.width + Gaps(static_cast<std::size_t>(count)),
-            button.height + spacing};
+    const LayoutSize row = ButtonRowLayout(dialog->GetButtons(), *dialog, _measure).GetSize();
+    return {row.width, row.height + LayoutMetrics(_measure).WindowMargin()};
 }
 
 void DialogLayout::PlaceButtons(const ZOLDlgDialog& dialog) {
-    const LayoutSize button = ButtonSize(dialog);
-    const int y = _size.height - spacing - button.height;
-    _buttonRow = {spacing, y, _size.width - 2 * spacing, button.height};
-    int x = _size.width - spacing - ButtonRowSize(dialog).width;
-    for (const ZOLDialogButton placed : DialogButtons::Row) {
-        if (!dialog.GetButtons().At(placed).isThere)
-            continue;
-        _buttons[placed] = {x, y, button.width, button.height};
-        x += button.width + spacing;
-    }
+    const ButtonRowLayout row(dialog.GetButtons(), dialog, _measure);
+    const int margin = LayoutMetrics(_measure).WindowMargin();
+    const int height = row.GetSize().height;
+    _buttonRow = {margin, _size.height - margin - height, _size.width - 2 * margin, height};
+    for (const ButtonRowLayout::Place& placed : row.PlaceIn(_buttonRow))
+        _buttons[placed.button] = placed.place;
 }
 
 LayoutSize DialogLayout::Natural(const ZOLDialog& dialog) {
@@ -189,18 +185,26 @@ LayoutSize DialogLayout::Natural(const ZOLDialog& dialog) {
         const Insets insets = InsetsOf(dialog);
         size = NaturalContent(dialog);
         size.width = std::max(size.width, ButtonRowSize(dialog).width);
-        size.width += 2 * insets.side;
+        size.width = std::max(size.width + 2 * insets.side, MenuBarSize(dialog).width);
         size.height += insets.top + insets.bottom;
     } else {
         size = dialog.GetNaturalSize(_measure);
     }
-    const LayoutSize wanted = dialog.GetLayoutHints().size;
-    if (wanted.width > 0)
-        size.width = wanted.width;
-    if (wanted.height > 0)
-        size.height = wanted.height;
-    _natural.emplace(&dialog, size);
+    _natural.emplace(&dialog, size = Bounded(dialog, size));
     return size;
+}
+
+// What scrolls asks for no more than a good part of a screen, however much it holds; as root it is laid out with
+// all that it holds.
+LayoutSize DialogLayout::Bounded(const ZOLDialog& dialog, LayoutSize size) const {
+    if (dynamic_cast<const ZOLDlgContainer*>(&dialog)) {
+        if (&dialog == _root)
+            return size;
+        size.width = std::min(size.width, 80 * _measure.GetCharacterWidth());
+        size.height = std::min(size.height, 20 * _measure.GetRowHeight());
+    }
+    const LayoutSize wanted = dialog.GetLayoutHints().size;
+    return {wanted.width > 0 ? wanted.width : size.width, wanted.height > 0 ? wanted.height : size.height};
 }
 
 LayoutSize DialogLayout::Natural(const Cell& cell) {
@@ -210,7 +214,7 @@ LayoutSize DialogLayout::Natural(const Cell& cell) {
     const LayoutSize title = {_measure.GetTextWidth(cell.dialog->GetTitle()), _measure.GetLineHeight()};
     if (cell.part == Cell::Title)
         return title;
-    return {title.width + spacing + field.width, std::max(title.height, field.height)};
+    return {title.width + _spacing + field.width, std::max(title.height, field.height)};
 }
 
 LayoutSize DialogLayout::NaturalContent(const ZOLDialog& holder) {
@@ -228,7 +232,7 @@ LayoutSize DialogLayout::NaturalContent(const ZOLDialog& holder) {
         const LayoutSize natural = NaturalRow(row, columns);
         size = {std::max(size.width, natural.width), size.height + natural.height};
     }
-    size.height += Gaps(rows.size());
+    size.height += Gaps(rows.size(), _spacing);
     return size;
 }
 
@@ -239,7 +243,7 @@ LayoutSize DialogLayout::NaturalRow(const Row& row, const std::vector<int>& colu
         size.width += row.isAligned ? columns[i] : natural.width;
         size.height = std::max(size.height, natural.height);
     }
-    size.width += Gaps(row.cells.size());
+    size.width += Gaps(row.cells.size(), _spacing);
     return size;
 }
 
@@ -260,7 +264,7 @@ void DialogLayout::Place(const ZOLDialog& dialog, const LayoutRectangle& area) {
 
 void DialogLayout::Place(const Cell& cell, const LayoutRectangle& area) {
     // As high as a field of one line at least, so that all texts of a row stand on one line.
-    const int line = _measure.GetLineHeight() + 2 * LayoutMetrics::textMargin;
+    const int line = LayoutMetrics(_measure).LineOfText();
     const auto height = [&](int natural) { return std::min(std::max(natural, line), area.height); };
     if (cell.part == Cell::Title) {
         _titles[cell.dialog] = {area.x, area.y, area.width, height(Natural(cell).height)};
@@ -271,7 +275,7 @@ void DialogLayout::Place(const Cell& cell, const LayoutRectangle& area) {
         const int width = Natural(title).width;
         Place(title, {area.x, area.y, width, area.height});
         return Place(Cell{cell.dialog, Cell::Field},
-                     {area.x + width + spacing, area.y, area.width - width - spacing, area.height});
+                     {area.x + width + _spacing, area.y, area.width - width - _spacing, area.height});
     }
     const bool fills = GrowsVertically(*cell.dialog);
     Place(*cell.dialog,
@@ -291,12 +295,12 @@ void DialogLayout::PlacePanes(const ZOLDlgSplitter& splitter, const LayoutRectan
     }
     if (std::count(grows.begin(), grows.end(), true) == 0)
         grows.assign(grows.size(), true);
-    Spread(sizes, grows, isRow ? area.width : area.height);
+    Spread(sizes, grows, (isRow ? area.width : area.height) - Gaps(sizes.size(), _spacing));
     int at = isRow ? area.x : area.y;
     for (std::size_t i = 0; i < panes.size(); ++i) {
         Place(*panes[i], isRow ? LayoutRectangle{at, area.y, sizes[i], area.height}
                                : LayoutRectangle{area.x, at, area.width, sizes[i]});
-        at += sizes[i] + spacing;
+        at += sizes[i] + _spacing;
     }
 }
 
@@ -309,26 +313,29 @@ void DialogLayout::PlaceRows(const std::vector<Row>& rows, const LayoutRectangle
         grows.push_back(std::any_of(row.cells.begin(), row.cells.end(),
                                     [](const Cell& cell) { return GrowsVertically(*cell.dialog); }));
     }
-    Spread(heights, grows, area.height);
+    Spread(heights, grows, area.height - Gaps(heights.size(), _spacing));
     int y = area.y;
     for (std::size_t i = 0; i < rows.size(); ++i) {
         PlaceRow(rows[i], columns, {area.x, y, area.width, heights[i]});
-        y += heights[i] + spacing;
+        y += heights[i] + _spacing;
     }
 }
 
 void DialogLayout::PlaceRow(const Row& row, const std::vector<int>& columns, const LayoutRectangle& area) {
+    // Surfaces below each other end at one edge, whatever they hold.
+    if (row.cells.size() == 1 && row.cells.front().dialog->HoldsChildren())
+        return Place(row.cells.front(), area);
     std::vector<int> widths;
     std::vector<bool> grows;
     for (std::size_t i = 0; i < row.cells.size(); ++i) {
         widths.push_back(row.isAligned ? columns[i] : Natural(row.cells[i]).width);
         grows.push_back(row.cells[i].part != Cell::Title && GrowsHorizontally(*row.cells[i].dialog));
     }
-    Spread(widths, grows, area.width);
+    Spread(widths, grows, area.width - Gaps(widths.size(), _spacing));
     int x = area.x;
     for (std::size_t i = 0; i < row.cells.size(); ++i) {
         Place(row.cells[i], {x, area.y, widths[i], area.height});
-        x += widths[i] + spacing;
+        x += widths[i] + _spacing;
     }
 }
 

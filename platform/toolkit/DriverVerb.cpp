@@ -2,8 +2,8 @@
 
 #include "toolkit/DialogRegistry.h"
 #include "toolkit/QuestionDesk.h"
-#include "toolkit/ZOLDlgContextualMenu.h"
 #include "toolkit/ZOLDlgEditor.h"
+#include "toolkit/ZOLDlgMenuPane.h"
 
 #include <array>
 
@@ -57,7 +57,7 @@ ZOLUserResult DriverVerb::Prepare() {
     const ZOLUserResult gate = _dialog->UserGate();
     if (gate == ZOLUserResult::Hidden || gate == ZOLUserResult::BehindQuestion)
         return gate;
-    if (ZOLDlgContextualMenu* menu = ZOLDlgContextualMenu::GetOpenMenu(); menu && _closesMenu)
+    if (ZOLDlgMenuPane* menu = ZOLDlgMenuPane::GetOpenMenu(); menu && _closesMenu)
         menu->Close();
     if (_leavesEditor)
         LeaveEditor(_dialog);

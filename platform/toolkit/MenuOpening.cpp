@@ -1,7 +1,12 @@
 #include "toolkit/MenuOpening.h"
 
+#include "toolkit/DialogPath.h"
 #include "toolkit/ZOLDlgContextualMenu.h"
+#include "toolkit/ZOLDlgMenuBar.h"
+#include "toolkit/ZOLDlgSubMenu.h"
 #include "toolkit/ZOLGraphViewer.h"
+
+#include <algorithm>
 
 namespace trellis {
 
@@ -24,8 +29,8 @@ ZOLUserResult AfterGesture(const ZOLDialog& graph, ZOLUserResult gesture) {
 } // namespace
 
 bool HasOpenMenu(const ZOLDialog& owner) {
-    const ZOLDlgContextualMenu* open = ZOLDlgContextualMenu::GetOpenMenu();
-    return open && open->GetOwner() == &owner;
+    const ZOLDlgMenuPane* open = ZOLDlgMenuPane::GetOpenMenu();
+    return open && (open == &owner || open->GetOwner() == &owner);
 }
 
 ZOLUserResult OpenMenuOf(ZOLDialog& owner) {
@@ -33,8 +38,19 @@ ZOLUserResult OpenMenuOf(ZOLDialog& owner) {
         return ZOLUserResult::Done;
     if (auto* viewer = dynamic_cast<ZOLGraphViewer*>(&owner))
         return AfterGesture(owner, viewer->UserContextBackground());
+    if (auto* subMenu = dynamic_cast<ZOLDlgSubMenu*>(&owner))
+        return subMenu->UserOpen();
     ZOLDlgContextualMenu* menu = MenuOf(owner);
     return menu ? menu->UserOpen() : ZOLUserResult::NotThere;
+}
+
+ZOLDialog* TakeMenuHolder(ZOLDialog& owner, std::string& path) {
+    if (!dynamic_cast<ZOLDlgMenuBar*>(&owner))
+        return &owner;
+    const std::size_t end = std::min(path.find('/'), path.size());
+    const DialogPath first(path.substr(0, end));
+    path.erase(0, std::min(end + 1, path.size()));
+    return dynamic_cast<ZOLDlgSubMenu*>(first.FindBelow(owner));
 }
 
 ZOLUserResult OpenMenuByKey(ZOLDialog& dialog) {

@@ -14,6 +14,8 @@ namespace trellis {
 namespace {
 
 constexpr int nobodyAnswers = -1;
+// Nobody takes the messages of a window that works for days.
+constexpr std::size_t MostKept = 1000;
 
 bool Offers(const ZOLShownMessage& message, int answer) {
     return answer == 0 ||
@@ -33,6 +35,8 @@ int QuestionDesk::Ask(const ZOLDialog& box, const ZOLDialog* over, const ZOLShow
     const BusyCursor::LiftedScope lifted;
     const auto record = std::make_shared<ZOLShownMessage>(message);
     _shown.push_back(record);
+    if (_shown.size() > MostKept)
+        _shown.pop_front();
 
     if (ToolkitView* view = ToolkitView::Current()) {
         view->RunUntil([&question] { return question.IsAnswered(); });

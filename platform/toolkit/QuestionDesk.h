@@ -14,7 +14,7 @@ class ZOLDialog;
 namespace trellis {
 
 // QuestionDesk: where every message box waits for its answer: in the loop of the view, or, without one, at
-// the answers that a driver has laid ready. It keeps a record of all that was shown.
+// the answers that a driver has laid ready. It keeps a record of what was shown.
 class QuestionDesk {
 public:
     using Asker = std::function<int(const ZOLShownMessage&)>;
@@ -27,6 +27,7 @@ public:
     // For the driver. An empty list of answers drops those that lie ready.
     void LayReady(const std::vector<int>& answers);
     void SetAsker(Asker asker) { _asker = std::move(asker); }
+    // What was shown since the last call, the latest thousand at most.
     std::vector<ZOLShownMessage> TakeMessages();
     int CountReady() const { return static_cast<int>(_ready.size()); }
     // An exception that left the asker, once: callbacks lie between the asker and the verb that raised the
@@ -40,7 +41,7 @@ private:
 
     std::deque<int> _ready;
     Asker _asker;
-    std::vector<std::shared_ptr<ZOLShownMessage>> _shown;
+    std::deque<std::shared_ptr<ZOLShownMessage>> _shown;
     std::exception_ptr _pendingException;
 };
 

@@ -20,4 +20,8 @@ int TextMeasure::GetRowHeight() const {
     return GetLineHeight();
 }
 
+int TextMeasure::GetPixels(int plain) const {
+    return plain;
+}
+
 } // namespace trellis

@@ -4,9 +4,9 @@
 #include "toolkit/HelpPage.h"
 #include "toolkit/MenuOpening.h"
 #include "toolkit/ZOLDlgCombo.h"
-#include "toolkit/ZOLDlgContextualMenu.h"
 #include "toolkit/ZOLDlgDialog.h"
 #include "toolkit/ZOLDlgEditor.h"
+#include "toolkit/ZOLDlgMenuPane.h"
 #include "toolkit/ZOLDlgMultiList.h"
 #include "toolkit/ZOLDlgNotify.h"
 #include "toolkit/ZOLDlgPushButton.h"
@@ -29,7 +29,7 @@ Widget* As(ZOLDialog& dialog) {
 }
 
 ZOLUserResult Escape(ZOLDialog& dialog, ZOLUserKey) {
-    if (ZOLDlgContextualMenu* menu = ZOLDlgContextualMenu::GetOpenMenu()) {
+    if (ZOLDlgMenuPane* menu = ZOLDlgMenuPane::GetOpenMenu()) {
         menu->Close();
         return ZOLUserResult::Done;
     }
@@ -149,6 +149,12 @@ ZOLUserResult InGraph(ZOLGraphViewer& graph, ZOLUserKey key) {
         return graph.UserClickFocus();
     case ZOLUserKey::ShiftSpace:
         return graph.UserContextFocus();
+    case ZOLUserKey::CtrlSpace:
+        return graph.UserExtendFocus();
+    case ZOLUserKey::ShiftUp:
+        return graph.UserExtendTo(GraphStep::Up);
+    case ZOLUserKey::ShiftDown:
+        return graph.UserExtendTo(GraphStep::Down);
     case ZOLUserKey::Plus:
         return graph.UserOpenFocus();
     case ZOLUserKey::Minus:

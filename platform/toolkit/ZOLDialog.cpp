@@ -23,6 +23,7 @@ ZOLDialog::ZOLDialog(ZOLDialog* owner, const ZOLString& name, unsigned long styl
     if (!_owner)
         return;
     _owner->_children.push_back(this);
+    _owner->MarkChanged(); // this one itself has no class yet
     // A panel may go on building what it has given up already.
     if (_owner->IsBeingDestroyed())
         ZOLDialog::GiveUp();
@@ -40,8 +41,10 @@ ZOLDialog::~ZOLDialog() {
 }
 
 void ZOLDialog::TakeOutOfOwner() {
-    if (_owner)
-        std::erase(_owner->_children, this);
+    if (!_owner)
+        return;
+    std::erase(_owner->_children, this);
+    _owner->MarkChanged();
     _owner = nullptr;
 }
 
@@ -104,6 +107,19 @@ ZOLUnicodeString ZOLDialog::GetTitle() const {
 
 ZOLUnicodeString ZOLDialog::GetFallbackTitle() const {
     return {};
+}
+
+// A view asks when the pointer rests: there is nothing to mirror.
+void ZOLDialog::SetToolTip(const ZOLUnicodeString& text) {
+    _toolTip = text;
+}
+
+ZOLUnicodeString ZOLDialog::GetToolTip() const {
+    ZOLUnicodeString text;
+    if (_toolTip)
+        return *_toolTip;
+    FindResource(std::string(GetName().View()) + ".ToolTip", text);
+    return text;
 }
 
 void ZOLDialog::SetVisibility(int visibility) {

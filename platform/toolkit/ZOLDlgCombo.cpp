@@ -142,6 +142,6 @@ trellis::LayoutSize ZOLDlgCombo::GetNaturalSize(const trellis::TextMeasure& meas
     if (_visibleWidth == 0)
         for (const ZOLUnicodeString& line : _lines)
             width = std::max(width, measure.GetTextWidth(line));
-    return {width + LayoutMetrics::indicator + 2 * LayoutMetrics::textMargin,
-            measure.GetLineHeight() + 2 * LayoutMetrics::textMargin};
+    const LayoutMetrics metrics(measure);
+    return {width + metrics.Arrow() + 2 * metrics.FieldMargin(), metrics.LineOfText()};
 }

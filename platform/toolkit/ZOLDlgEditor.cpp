@@ -166,6 +166,7 @@ std::string ZOLDlgEditor::GetMarks() const {
 }
 
 trellis::LayoutSize ZOLDlgEditor::GetNaturalSize(const trellis::TextMeasure& measure) const {
-    return {_visibleWidth * measure.GetCharacterWidth() + 2 * LayoutMetrics::textMargin,
-            _visibleHeight * measure.GetLineHeight() + 2 * LayoutMetrics::textMargin};
+    const LayoutMetrics metrics(measure);
+    return {_visibleWidth * measure.GetCharacterWidth() + 2 * metrics.FieldMargin(),
+            (_visibleHeight - 1) * measure.GetLineHeight() + metrics.LineOfText()};
 }

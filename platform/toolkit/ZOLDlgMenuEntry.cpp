@@ -1,10 +1,10 @@
 #include "toolkit/ZOLDlgMenuEntry.h"
 
-#include "toolkit/ZOLDlgContextualMenu.h"
+#include "toolkit/ZOLDlgMenuPane.h"
 
-ZOLDlgContextualMenu* ZOLDlgMenuEntry::GetMenu() const {
+ZOLDlgMenuPane* ZOLDlgMenuEntry::GetMenu() const {
     for (ZOLDialog* dialog = const_cast<ZOLDlgMenuEntry*>(this); dialog; dialog = dialog->GetOwner())
-        if (auto* menu = dynamic_cast<ZOLDlgContextualMenu*>(dialog))
+        if (auto* menu = dynamic_cast<ZOLDlgMenuPane*>(dialog); menu && menu->OpensByItself())
             return menu;
     return nullptr;
 }

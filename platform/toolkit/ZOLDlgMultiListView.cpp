@@ -38,7 +38,8 @@ trellis::LayoutSize ZOLDlgMultiList::GetNaturalSize(const trellis::TextMeasure& 
         characters += column.width;
         ++columns;
     }
-    const int width = characters * measure.GetCharacterWidth() + columns * 2 * LayoutMetrics::cellMargin;
+    const LayoutMetrics metrics(measure);
+    const int width = characters * measure.GetCharacterWidth() + columns * 2 * metrics.CellMargin();
     const int lines = _visibleLines + 1; // the titles stand above the lines
-    return {width + LayoutMetrics::scrollBar, lines * measure.GetRowHeight() + LayoutMetrics::scrollBar};
+    return {width + metrics.ScrollBar(), lines * measure.GetRowHeight() + metrics.ScrollBar()};
 }

@@ -26,6 +26,6 @@ ZOLUnicodeString ZOLDlgPushButton::GetFallbackTitle() const {
 }
 
 trellis::LayoutSize ZOLDlgPushButton::GetNaturalSize(const trellis::TextMeasure& measure) const {
-    return {measure.GetTextWidth(GetTitle()) + 4 * LayoutMetrics::textMargin,
-            measure.GetLineHeight() + 2 * LayoutMetrics::textMargin};
+    const LayoutMetrics metrics(measure);
+    return {measure.GetTextWidth(GetTitle()) + 2 * metrics.ButtonMargin(), metrics.LineOfText()};
 }

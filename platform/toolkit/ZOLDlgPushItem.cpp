@@ -1,7 +1,7 @@
 #include "toolkit/ZOLDlgPushItem.h"
 
 #include "toolkit/CallbackScope.h"
-#include "toolkit/ZOLDlgContextualMenu.h"
+#include "toolkit/ZOLDlgMenuPane.h"
 
 ZOLDlgPushItem::ZOLDlgPushItem(ZOLDialog* father, const ZOLString& name, unsigned long style)
     : ZOLDlgMenuEntry(father, name, style), _activateNotification("ZOLDlgMenuIActivateNotification") {}
@@ -10,7 +10,7 @@ ZOLUserResult ZOLDlgPushItem::UserActivate() {
     const trellis::CallbackScope scope;
     if (const ZOLUserResult gate = UserGate(); gate != ZOLUserResult::Done)
         return gate;
-    if (ZOLDlgContextualMenu* menu = GetMenu())
+    if (ZOLDlgMenuPane* menu = GetMenu())
         menu->Close();
     SendUserNotification(_activateNotification);
     return ZOLUserResult::Done;

@@ -67,6 +67,7 @@ void ZOLDlgSelectorList::DescribeTo(trellis::DialogDescription& description) con
 }
 
 trellis::LayoutSize ZOLDlgSelectorList::GetNaturalSize(const trellis::TextMeasure& measure) const {
-    return {_visibleWidth * measure.GetCharacterWidth() + trellis::LayoutMetrics::scrollBar,
-            _visibleHeight * measure.GetRowHeight() + 2 * trellis::LayoutMetrics::textMargin};
+    const trellis::LayoutMetrics metrics(measure);
+    return {_visibleWidth * measure.GetCharacterWidth() + 2 * metrics.CellMargin() + metrics.ScrollBar(),
+            _visibleHeight * measure.GetRowHeight() + 2 * trellis::LayoutMetrics::separator};
 }

@@ -1,7 +1,13 @@
 #include "toolkit/ZOLDlgSubMenu.h"
 
+#include "toolkit/ZOLDlgMenuBar.h"
+
 ZOLDlgSubMenu::ZOLDlgSubMenu(ZOLDialog* father, const ZOLString& name, unsigned long style)
-    : ZOLDlgMenuEntry(father, name, style) {}
+    : ZOLDlgMenuPane(father, name, style) {}
+
+bool ZOLDlgSubMenu::OpensByItself() const {
+    return dynamic_cast<const ZOLDlgMenuBar*>(GetOwner());
+}
 
 const char* ZOLDlgSubMenu::GetKind() const {
     return "submenu";

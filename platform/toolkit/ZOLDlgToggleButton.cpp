@@ -36,5 +36,7 @@ ZOLUnicodeString ZOLDlgToggleButton::GetFallbackTitle() const {
 }
 
 trellis::LayoutSize ZOLDlgToggleButton::GetNaturalSize(const trellis::TextMeasure& measure) const {
-    return {measure.GetTextWidth(GetTitle()) + trellis::LayoutMetrics::indicator, measure.GetLineHeight()};
+    const trellis::LayoutMetrics metrics(measure);
+    return {measure.GetTextWidth(GetTitle()) + metrics.Indicator() + metrics.Spacing(),
+            measure.GetLineHeight() + metrics.TextMargin()};
 }

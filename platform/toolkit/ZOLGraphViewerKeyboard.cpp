@@ -76,21 +76,50 @@ void ZOLGraphViewer::SetFocus(ZOLGraphNode* node) {
     _focusPlace = drawing.Nodes()[static_cast<std::size_t>(drawing.Position(node))].place;
 }
 
-ZOLUserResult ZOLGraphViewer::UserMoveFocus(GraphStep step) {
-    ZOLGraphNode* focus = GetFocusNode();
-    const ZOLUserResult gate = NodeGate(focus);
-    if (gate != ZOLUserResult::Done)
-        return gate;
-    const std::vector<DrawnNode>& nodes = GetGraph()->GetDrawing().Nodes();
-    const TreeShape shape = GetGraph()->GetLayoutStyle().shape;
-    const int from = GetGraph()->GetDrawing().Position(focus);
-    const int target = Target(nodes, from, MeaningOf(step, shape), shape == TreeShape::HorizontalIndented);
-    if (target < 0)
-        return ZOLUserResult::NotThere;
-    SetFocus(nodes[static_cast<std::size_t>(target)].node);
+void ZOLGraphViewer::reveal(ZOLGraphNode* node) {
+    if (GetGraph()->GetDrawing().Position(node) < 0)
+        return;
+    SetFocus(node);
     _toReveal = _focus;
     MarkChanged();
+}
+
+ZOLGraphNode* ZOLGraphViewer::NodeAt(GraphStep step) const {
+    const std::vector<DrawnNode>& nodes = GetGraph()->GetDrawing().Nodes();
+    const TreeShape shape = GetGraph()->GetLayoutStyle().shape;
+    const int from = GetGraph()->GetDrawing().Position(GetFocusNode());
+    const int target =
+        from < 0 ? -1 : Target(nodes, from, MeaningOf(step, shape), shape == TreeShape::HorizontalIndented);
+    return target < 0 ? nullptr : nodes[static_cast<std::size_t>(target)].node;
+}
+
+ZOLUserResult ZOLGraphViewer::UserMoveFocus(GraphStep step) {
+    const ZOLUserResult gate = NodeGate(GetFocusNode());
+    if (gate != ZOLUserResult::Done)
+        return gate;
+    ZOLGraphNode* target = NodeAt(step);
+    if (!target)
+        return ZOLUserResult::NotThere;
+    reveal(target);
     return ZOLUserResult::Done;
+}
+
+ZOLUserResult ZOLGraphViewer::UserExtendFocus() {
+    return UserClickNode(GetFocusNode(), true);
+}
+
+ZOLUserResult ZOLGraphViewer::UserExtendTo(GraphStep step) {
+    const ZOLUserResult gate = NodeGate(GetFocusNode());
+    if (gate != ZOLUserResult::Done)
+        return gate;
+    const ZOLGraphNode* target = NodeAt(step);
+    if (!target || target->getHighlight() == 0) {
+        const ZOLUserResult moved = UserMoveFocus(step);
+        return moved == ZOLUserResult::Done ? UserExtendFocus() : moved;
+    }
+    // What is left is asked first: the notification may change what is drawn.
+    const ZOLUserResult left = UserExtendFocus();
+    return left == ZOLUserResult::Done ? UserMoveFocus(step) : left;
 }
 
 ZOLUserResult ZOLGraphViewer::UserClickFocus() {

@@ -5,8 +5,8 @@
 #include "toolkit/MenuOpening.h"
 #include "toolkit/UserKeys.h"
 #include "toolkit/ZOLDlgCombo.h"
-#include "toolkit/ZOLDlgContextualMenu.h"
 #include "toolkit/ZOLDlgEditor.h"
+#include "toolkit/ZOLDlgMenuPane.h"
 #include "toolkit/ZOLDlgMultiList.h"
 #include "toolkit/ZOLDlgPushItem.h"
 
@@ -51,7 +51,7 @@ ZOLUserResult TypeInto(ZOLDlgCombo& combo, const ZOLUnicodeString& text) {
 }
 
 ZOLUserResult PressItem(const std::string& path) {
-    ZOLDlgContextualMenu* menu = ZOLDlgContextualMenu::GetOpenMenu();
+    ZOLDlgMenuPane* menu = ZOLDlgMenuPane::GetOpenMenu();
     auto* item = dynamic_cast<ZOLDlgPushItem*>(trellis::DialogPath(path).FindBelow(*menu));
     const ZOLUserResult result = item ? item->UserActivate() : ZOLUserResult::NotThere;
     if (result != ZOLUserResult::Done)
@@ -148,8 +148,10 @@ void ZOLUserDriver::Activate(ZOLDialog* list, int row) {
 
 void ZOLUserDriver::Menu(ZOLDialog* owner, const std::string& path) {
     DriverVerb("use the menu of", owner).KeepMenu().On<ZOLDialog>([&path](ZOLDialog& target) {
-        const ZOLUserResult opened = trellis::OpenMenuOf(target);
-        return opened == ZOLUserResult::Done ? PressItem(path) : opened;
+        std::string rest = path;
+        ZOLDialog* holder = trellis::TakeMenuHolder(target, rest);
+        const ZOLUserResult opened = holder ? trellis::OpenMenuOf(*holder) : ZOLUserResult::NotThere;
+        return opened == ZOLUserResult::Done ? PressItem(rest) : opened;
     });
 }
 
@@ -158,7 +160,7 @@ std::vector<ZOLUserDriver::MenuLine> ZOLUserDriver::OpenMenu(ZOLDialog* owner) {
     DriverVerb("open the menu of", owner).KeepMenu().On<ZOLDialog>([&lines](ZOLDialog& target) {
         const ZOLUserResult opened = trellis::OpenMenuOf(target);
         if (opened == ZOLUserResult::Done)
-            CollectLines(*ZOLDlgContextualMenu::GetOpenMenu(), 0, lines);
+            CollectLines(*ZOLDlgMenuPane::GetOpenMenu(), 0, lines);
         return opened;
     });
     return lines;

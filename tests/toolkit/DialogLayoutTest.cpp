@@ -1,9 +1,11 @@
 #include "toolkit/DialogLayout.h"
 
+#include "toolkit/ButtonRowLayout.h"
 #include "toolkit/TextMeasure.h"
 #include "toolkit/ToolkitFixture.h"
 #include "toolkit/ZOLDlgCheckButton.h"
 #include "toolkit/ZOLDlgCombo.h"
+#include "toolkit/ZOLDlgContainer.h"
 #include "toolkit/ZOLDlgEditor.h"
 #include "toolkit/ZOLDlgFrame.h"
 #include "toolkit/ZOLDlgLabel.h"
@@ -171,4 +173,60 @@ TEST_F(DialogLayoutTest, ASeparatorSpansTheColumnThatItDivides) {
     const DialogLayout layout(*panel, measure, {500, 300});
     EXPECT_GT(PlaceOf(layout, separator).width, 400);
     EXPECT_LT(PlaceOf(layout, separator).height, 10);
+}
+
+TEST_F(DialogLayoutTest, EverythingGrowsWithTheFont) {
+    class LargeMeasure : public trellis::TextMeasure {
+        int GetCharacterWidth() const override { return 16; }
+        int GetLineHeight() const override { return 32; }
+        int GetPixels(int plain) const override { return 2 * plain; }
+    };
+    ListeningPanel* panel = OpenPanel();
+    auto* upper = new ZOLDlgEditor(panel, "Upper");
+    auto* lower = new ZOLDlgCheckButton(panel, "Lower");
+    const DialogLayout plain(*panel, measure);
+    const DialogLayout large(*panel, LargeMeasure());
+    EXPECT_EQ(large.GetSize().width, 2 * plain.GetSize().width);
+    EXPECT_EQ(large.GetSize().height, 2 * plain.GetSize().height);
+    for (const ZOLDialog* dialog : {static_cast<ZOLDialog*>(upper), static_cast<ZOLDialog*>(lower)}) {
+        EXPECT_EQ(PlaceOf(large, dialog).x, 2 * PlaceOf(plain, dialog).x);
+        EXPECT_EQ(PlaceOf(large, dialog).y, 2 * PlaceOf(plain, dialog).y);
+        EXPECT_EQ(PlaceOf(large, dialog).height, 2 * PlaceOf(plain, dialog).height);
+    }
+}
+
+TEST_F(DialogLayoutTest, AContainerAsksForALittleAndIsItselfLaidOutWithAll) {
+    ListeningPanel* panel = OpenPanel();
+    auto* container = new ZOLDlgContainer(panel, "Container");
+    ZOLDlgCheckButton* last = nullptr;
+    for (int i = 0; i < 300; ++i)
+        last = new ZOLDlgCheckButton(container, "Check");
+    EXPECT_LT(DialogLayout(*panel, measure).GetSize().height, 500);
+    container->SetRectDimensions(0, 100);
+    EXPECT_LT(DialogLayout(*panel, measure).GetSize().height, 200);
+    const DialogLayout own(*container, measure);
+    EXPECT_GT(own.GetSize().height, 300 * measure.GetLineHeight());
+    EXPECT_LE(Bottom(PlaceOf(own, last)), own.GetSize().height);
+}
+
+TEST_F(DialogLayoutTest, FramesBelowEachOtherEndAtOneEdge) {
+    ListeningPanel* panel = OpenPanel();
+    auto* narrow = new ZOLDlgFrame(panel, "Narrow");
+    new ZOLDlgCheckButton(narrow, "Check");
+    auto* wide = new ZOLDlgFrame(panel, "Wide");
+    new ZOLDlgCheckButton(wide, "A check with a long title");
+    const DialogLayout layout(*panel, measure);
+    EXPECT_EQ(Right(PlaceOf(layout, narrow)), Right(PlaceOf(layout, wide)));
+}
+
+TEST_F(DialogLayoutTest, ButtonsShareARowThatIsTooNarrowForThem) {
+    ListeningPanel* panel = OpenPanel("Panel", nullptr, 0x2c00);
+    const trellis::ButtonRowLayout row(panel->GetButtons(), *panel, measure);
+    const auto places = row.PlaceIn({10, 0, 100, 28});
+    ASSERT_EQ(places.size(), 3U);
+    EXPECT_GE(places.front().place.x, 10);
+    EXPECT_EQ(Right(places.back().place), 110);
+    EXPECT_LT(Right(places[0].place), places[1].place.x);
+    for (const auto& placed : row.PlaceIn({0, 0, 1, 28}))
+        EXPECT_GT(placed.place.width, 0);
 }

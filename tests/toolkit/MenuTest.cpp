@@ -1,6 +1,9 @@
 #include "toolkit/ToolkitFixture.h"
 
+#include "toolkit/DialogLayout.h"
+#include "toolkit/TextMeasure.h"
 #include "toolkit/ZOLDlgContextualMenu.h"
+#include "toolkit/ZOLDlgMenuBar.h"
 #include "toolkit/ZOLDlgMultiList.h"
 #include "toolkit/ZOLDlgPushButton.h"
 #include "toolkit/ZOLDlgPushItem.h"
@@ -98,4 +101,98 @@ TEST_F(MenuTest, AMenuGivenUpByItsOwnNewsDoesNotOpen) {
     Item("Open");
     panel->reaction = [&](ZOLCommand*, ZOLNotification*, void*) { menu->RequestDelayedDestruction(); };
     EXPECT_THROW(ZOLUserDriver::Menu(list, "Open"), ZOLUserDriver::Refused);
+}
+
+namespace {
+
+// A window with the menus "Part" and "Tools", the latter with a submenu.
+class MenuBarTest : public ToolkitTest {
+protected:
+    void SetUp() override {
+        panel = OpenPanel();
+        list = new ZOLDlgMultiList(panel, "List");
+        bar = new ZOLDlgMenuBar(panel, "Bar");
+        part = Menu(bar, "Part");
+        tools = Menu(bar, "Tools");
+        open = Item(part, "Open");
+        Item(Menu(tools, "Sub"), "Child");
+        panel->heard.clear();
+    }
+    ZOLDlgSubMenu* Menu(ZOLDialog* father, const char* name) {
+        auto* menu = new ZOLDlgSubMenu(father, name);
+        panel->Listen(menu, menu->GetVisibilityNotification());
+        return menu;
+    }
+    ZOLDlgPushItem* Item(ZOLDialog* father, const char* name) {
+        auto* item = new ZOLDlgPushItem(father, name);
+        panel->Listen(item, item->GetMenuIActivateNotification());
+        return item;
+    }
+    ListeningPanel* panel = nullptr;
+    ZOLDlgMultiList* list = nullptr;
+    ZOLDlgMenuBar* bar = nullptr;
+    ZOLDlgSubMenu* part = nullptr;
+    ZOLDlgSubMenu* tools = nullptr;
+    ZOLDlgPushItem* open = nullptr;
+};
+
+} // namespace
+
+TEST_F(MenuBarTest, AMenuOfTheBarIsToldBeforeItOpensAndItsItemsCanBeBuiltThen) {
+    panel->reaction = [&](ZOLCommand* sender, ZOLNotification*, void*) {
+        if (sender == part && part->GetChildren().size() == 1)
+            Item(part, "Late");
+    };
+    ZOLUserDriver::Menu(bar, "Part/Late");
+    EXPECT_EQ(panel->heard, (Heard{"Part", "Late"}));
+    EXPECT_EQ(ZOLDlgMenuPane::GetOpenMenu(), nullptr);
+    panel->heard.clear();
+    ZOLUserDriver::Menu(bar, "Tools/Sub/Child");
+    EXPECT_EQ(panel->heard, (Heard{"Tools", "Child"})) << "a submenu is seen with its menu";
+}
+
+TEST_F(MenuBarTest, OneMenuIsOpenAtATimeAndItsItemsAreOutOfReachUntilThen) {
+    EXPECT_EQ(open->UserActivate(), ZOLUserResult::Hidden);
+    ASSERT_EQ(ZOLUserDriver::OpenMenu(part).size(), 1u);
+    const auto lines = ZOLUserDriver::OpenMenu(tools);
+    ASSERT_EQ(lines.size(), 2u);
+    EXPECT_EQ(lines[1].text, "Child");
+    EXPECT_FALSE(part->IsOpen());
+    EXPECT_EQ(open->UserActivate(), ZOLUserResult::Hidden);
+    EXPECT_EQ(static_cast<ZOLDlgSubMenu*>(ZOLUserDriver::Find(bar, "Sub"))->UserOpen(),
+              ZOLUserResult::NotThere);
+    EXPECT_THROW(ZOLUserDriver::Menu(bar, "Open"), ZOLUserDriver::Refused) << "the first step names a menu";
+    EXPECT_THROW(ZOLUserDriver::Menu(bar, "Part"), ZOLUserDriver::Refused) << "a menu is no item";
+    EXPECT_EQ(ZOLDlgMenuPane::GetOpenMenu(), nullptr);
+}
+
+TEST_F(MenuBarTest, WhatIsGreyedOrHiddenInTheBarDoesNotOpen) {
+    part->SetSensitivity(ZOLGreyed);
+    EXPECT_EQ(part->UserOpen(), ZOLUserResult::Insensitive);
+    EXPECT_EQ(ZOLUserDriver::Describe(bar), "menu bar \"Part\" greyed \"Tools\"\n");
+    tools->SetVisibility(ZOLHidden);
+    EXPECT_EQ(tools->UserOpen(), ZOLUserResult::Hidden);
+    EXPECT_EQ(ZOLUserDriver::Describe(bar), "menu bar \"Part\" greyed\n");
+    part->SetSensitivity(ZOLActive);
+    open->SetVisibility(ZOLHidden);
+    EXPECT_EQ(part->UserOpen(), ZOLUserResult::NotThere) << "nothing is in it";
+    bar->SetVisibility(ZOLHidden);
+    EXPECT_EQ(part->UserOpen(), ZOLUserResult::Hidden);
+    EXPECT_EQ(panel->heard, Heard{"Part"});
+}
+
+TEST_F(MenuBarTest, TheBarTakesTheWholeUpperEdgeAndAllElseStandsBelowIt) {
+    const trellis::TextMeasure measure;
+    const trellis::DialogLayout with(*panel, measure, {400, 300});
+    const auto edge = with.Find(*bar);
+    ASSERT_TRUE(edge);
+    EXPECT_EQ(edge->x, 0);
+    EXPECT_EQ(edge->y, 0);
+    EXPECT_EQ(edge->width, 400);
+    const int listTop = with.Find(*list)->y;
+    EXPECT_GT(listTop, edge->height);
+    bar->SetVisibility(ZOLHidden);
+    const trellis::DialogLayout without(*panel, measure, {400, 300});
+    EXPECT_EQ(without.Find(*list)->y, listTop - edge->height);
+    EXPECT_FALSE(without.Find(*bar));
 }

@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 const fs::path English = fs::path(TRELLIS_SOURCE_DIR) / "resources/en";
 
 // These are lines "key text", read as message catalogues.
-const std::set<std::string> Catalogues{"messages", "RuleKeyWords"};
+const std::set<std::string> Catalogues{"messages", "RuleKeyWords", "RulePhrases"};
 
 std::vector<std::string> Lines(const fs::path& file) {
     std::ifstream in(file);
