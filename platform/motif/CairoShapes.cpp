@@ -54,6 +54,17 @@ void CairoShapes::Arrow(cairo_t* context, double x, double y, double size, bool 
     cairo_fill(context);
 }
 
+void CairoShapes::Chevron(cairo_t* context, double x, double y, double width, ThemeColour colour) {
+    SetColour(context, colour);
+    cairo_set_line_width(context, width / 6);
+    cairo_set_line_cap(context, CAIRO_LINE_CAP_ROUND);
+    cairo_set_line_join(context, CAIRO_LINE_JOIN_ROUND);
+    cairo_move_to(context, x - width / 2, y - width / 4);
+    cairo_line_to(context, x, y + width / 4);
+    cairo_line_to(context, x + width / 2, y - width / 4);
+    cairo_stroke(context);
+}
+
 void CairoShapes::FocusRing(cairo_t* context, const LayoutRectangle& place) {
     cairo_set_line_width(context, 1);
     SetColour(context, Theme::Field);

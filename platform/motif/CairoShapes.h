@@ -23,6 +23,8 @@ public:
     static void CheckMark(cairo_t* context, double x, double y, double size, ThemeColour colour);
     // A filled triangle around a point, its tip up or down.
     static void Arrow(cairo_t* context, double x, double y, double size, bool isUp, ThemeColour colour);
+    // Two strokes that meet below, so wide around a point: what opens downwards.
+    static void Chevron(cairo_t* context, double x, double y, double width, ThemeColour colour);
     // What the keyboard acts on: a blue ring inside of the place, on a white one, so that it shows on any
     // ground.
     static void FocusRing(cairo_t* context, const LayoutRectangle& place);

@@ -1,79 +1,65 @@
 #include "motif/GraphIcons.h"
 
-#include "motif/CairoShapes.h"
+#include <algorithm>
+#include <cmath>
 
 namespace trellis {
 
 namespace {
 
-// A folder with a plus: there is more to open.
-void DrawClosed(cairo_t* context) {
-    cairo_move_to(context, 1.5, 3.5);
-    cairo_line_to(context, 6, 3.5);
-    cairo_line_to(context, 7.5, 5.5);
-    cairo_line_to(context, 14.5, 5.5);
-    cairo_line_to(context, 14.5, 13.5);
-    cairo_line_to(context, 1.5, 13.5);
-    cairo_close_path(context);
-    CairoShapes::SetColour(context, ThemeColour{0xf6c95c});
-    cairo_fill_preserve(context);
-    CairoShapes::SetColour(context, ThemeColour{0x8a6414});
-    cairo_stroke(context);
-    CairoShapes::SetColour(context, Theme::Text);
-    cairo_move_to(context, 5, 9.5);
-    cairo_line_to(context, 11, 9.5);
-    cairo_move_to(context, 8, 6.5);
-    cairo_line_to(context, 8, 12.5);
-    cairo_stroke(context);
+constexpr std::string_view PixmapEnding = ".rgb";
+constexpr int LargestImage = 512;      // pixels to each side
+constexpr std::size_t MostImages = 64; // kept; zooming leaves one behind at every step
+
+bool HasPixels(cairo_t* context) {
+    const cairo_surface_type_t type = cairo_surface_get_type(cairo_get_target(context));
+    return type == CAIRO_SURFACE_TYPE_IMAGE || type == CAIRO_SURFACE_TYPE_XLIB;
 }
-
-// An open folder: its content is shown.
-void DrawOpen(cairo_t* context) {
-    cairo_move_to(context, 1.5, 13.5);
-    cairo_line_to(context, 1.5, 3.5);
-    cairo_line_to(context, 6, 3.5);
-    cairo_line_to(context, 7.5, 5.5);
-    cairo_line_to(context, 12.5, 5.5);
-    cairo_line_to(context, 12.5, 7.5);
-    CairoShapes::SetColour(context, ThemeColour{0xd9a93a});
-    cairo_fill_preserve(context);
-    CairoShapes::SetColour(context, ThemeColour{0x8a6414});
-    cairo_stroke(context);
-    cairo_move_to(context, 1.5, 13.5);
-    cairo_line_to(context, 4.5, 7.5);
-    cairo_line_to(context, 15.5, 7.5);
-    cairo_line_to(context, 12.5, 13.5);
-    cairo_close_path(context);
-    CairoShapes::SetColour(context, ThemeColour{0xfbe3a3});
-    cairo_fill_preserve(context);
-    CairoShapes::SetColour(context, ThemeColour{0x8a6414});
-    cairo_stroke(context);
-}
-
-struct Icon {
-    std::string_view name;
-    void (*draw)(cairo_t*);
-};
-
-constexpr Icon Icons[] = {
-    {"dirclose.rgb", DrawClosed},
-    {"diropen.rgb", DrawOpen},
-};
 
 } // namespace
 
-void GraphIcons::Draw(cairo_t* context, std::string_view name, double x, double y) {
-    for (const Icon& icon : Icons) {
-        if (icon.name != name)
-            continue;
-        cairo_save(context);
-        cairo_translate(context, x, y);
-        cairo_set_line_width(context, 1);
-        cairo_set_line_join(context, CAIRO_LINE_JOIN_ROUND);
-        icon.draw(context);
-        cairo_restore(context);
+void GraphIcons::Draw(cairo_t* context, std::string_view name, double x, double y, double side) {
+    if (!name.ends_with(PixmapEnding))
+        return;
+    name.remove_suffix(PixmapEnding.size());
+    const std::string base(name);
+    const SvgPicture* picture = Find(base);
+    if (!picture)
+        return;
+    if (!HasPixels(context)) {
+        picture->Draw(context, x, y, side);
         return;
     }
+    double width = side;
+    double height = side;
+    cairo_user_to_device_distance(context, &width, &height);
+    cairo_user_to_device(context, &x, &y);
+    const int pixels = std::clamp(static_cast<int>(std::lround(width)), 1, LargestImage);
+    cairo_save(context);
+    cairo_identity_matrix(context);
+    cairo_set_source_surface(context, Image(base, *picture, pixels), std::round(x), std::round(y));
+    cairo_paint(context);
+    cairo_restore(context);
+}
+
+const SvgPicture* GraphIcons::Find(const std::string& name) {
+    auto found = _pictures.find(name);
+    if (found == _pictures.end())
+        found = _pictures.emplace(name, SvgPicture::Read(name)).first;
+    return found->second ? &*found->second : nullptr;
+}
+
+cairo_surface_t* GraphIcons::Image(const std::string& name, const SvgPicture& picture, int pixels) {
+    if (_images.size() >= MostImages)
+        _images.clear();
+    Surface& image = _images[{name, pixels}];
+    if (!image) {
+        image.reset(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, pixels, pixels));
+        cairo_t* context = cairo_create(image.get());
+        picture.Draw(context, 0, 0, pixels);
+        cairo_destroy(context);
+    }
+    return image.get();
 }
 
 } // namespace trellis

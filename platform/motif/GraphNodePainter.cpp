@@ -1,7 +1,6 @@
 #include "motif/GraphNodePainter.h"
 
 #include "motif/CairoShapes.h"
-#include "motif/GraphIcons.h"
 #include "toolkit/GraphDrawing.h"
 #include "toolkit/ZOLGraphNode.h"
 
@@ -68,7 +67,7 @@ void GraphNodePainter::Paint(cairo_t* context, const ZOLGraphNode& node, const L
     if (detail == WithoutText)
         return;
     if (const LayoutRectangle icon = IconPlace(node, place); icon.width > 0)
-        GraphIcons::Draw(context, PixmapBaseName(node.getPixmap()), icon.x, icon.y);
+        _icons.Draw(context, PixmapBaseName(node.getPixmap()), icon.x, icon.y, icon.width);
     PaintText(context, node, place);
 }
 
@@ -129,7 +128,7 @@ void GraphNodePainter::PaintSign(cairo_t* context, const ZOLGraphNode& node, con
 void GraphNodePainter::PaintText(cairo_t* context, const ZOLGraphNode& node, const LayoutRectangle& place) {
     const std::string_view text = node.getText().Bytes();
     const int border = BorderOf(node);
-    const int x = place.x + border + (node.HasPixmap() ? GraphDrawing::IconRoom : 0);
+    const int x = place.x + border + (node.HasPixmap() ? _text.LineHeight() + GraphDrawing::IconGap : 0);
     int y = place.y + border;
     CairoShapes::SetColour(context, Theme::Text);
     for (std::size_t begin = 0, end = 0; end != std::string_view::npos; begin = end + 1) {
@@ -143,8 +142,7 @@ LayoutRectangle GraphNodePainter::IconPlace(const ZOLGraphNode& node, const Layo
     if (!node.HasPixmap())
         return {};
     const int border = BorderOf(node);
-    return {place.x + border, place.y + border + (_text.LineHeight() - GraphIcons::Size) / 2,
-            GraphIcons::Size, GraphIcons::Size};
+    return {place.x + border, place.y + border, _text.LineHeight(), _text.LineHeight()};
 }
 
 } // namespace trellis

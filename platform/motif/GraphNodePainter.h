@@ -1,5 +1,6 @@
 #pragma once
 
+#include "motif/GraphIcons.h"
 #include "motif/TextPainter.h"
 #include "toolkit/GraphPalette.h"
 #include "toolkit/LayoutTypes.h"
@@ -29,6 +30,7 @@ private:
     void PaintText(cairo_t* context, const ZOLGraphNode& node, const LayoutRectangle& place);
 
     TextPainter& _text;
+    GraphIcons _icons;
 };
 
 } // namespace trellis

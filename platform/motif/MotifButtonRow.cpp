@@ -1,19 +1,16 @@
 #include "motif/MotifButtonRow.h"
 
 #include "motif/MotifQuirks.h"
-#include "motif/Theme.h"
-#include "toolkit/TextMeasure.h"
+#include "motif/MotifView.h"
+#include "toolkit/ButtonRowLayout.h"
+#include "toolkit/ZOLDialog.h"
 
 #include <Xm/MessageB.h>
 #include <Xm/PushBG.h>
 
-#include <algorithm>
-
 namespace trellis {
 
 namespace {
-
-constexpr int leastWidth = 76; // of a button, in pixels of the plain theme
 
 constexpr std::array<unsigned char, 5> nativeButtons = {0, XmDIALOG_OK_BUTTON, XmDIALOG_CANCEL_BUTTON,
                                                         XmDIALOG_HELP_BUTTON, 0};
@@ -36,14 +33,14 @@ Widget MotifButtonRow::MakeBox(const char* name, Widget parent) {
     return box;
 }
 
-MotifButtonRow::MotifButtonRow(Widget box, const Theme& theme, const TextMeasure& measure)
-    : _theme(theme), _measure(measure) {
+MotifButtonRow::MotifButtonRow(MotifView& view, Widget box) : _view(view) {
     for (const ZOLDialogButton button : DialogButtons::Row) {
         const auto index = static_cast<std::size_t>(button);
         _widgets[index] = button == ZOLDialogButton::Apply ? XtNameToWidget(box, "Apply")
                                                            : XmMessageBoxGetChild(box, nativeButtons[index]);
         XtVaSetValues(_widgets[index], XmNrecomputeSize, False, XmNnavigationType, XmTAB_GROUP,
                       XmNshowAsDefault, 0, XmNdefaultButtonShadowThickness, 0, nullptr);
+        _faces[index] = std::make_unique<MotifFace>(view, Face::Button);
     }
 }
 
@@ -53,49 +50,28 @@ void MotifButtonRow::Mirror(const DialogButtons& buttons, const ZOLDialog& dialo
         const DialogButtons::Button& state = buttons.At(button);
         Widget widget = GetWidget(button);
         if (state.isThere) {
-            MotifQuirks::SetLabel(widget, buttons.GetTitle(button, dialog));
-            XtSetSensitive(widget, state.isSensitive);
-            Dress(widget, button == defaultButton && state.isSensitive);
+            Face face;
+            face.text = buttons.GetTitle(button, dialog).Bytes();
+            face.isSensitive = state.isSensitive && dialog.IsSensitive();
+            XtSetSensitive(widget, face.isSensitive);
+            face.mnemonic = _view.GetMnemonics().Of(dialog, button);
+            face.isDefault = button == defaultButton && face.isSensitive;
+            _faces[static_cast<std::size_t>(button)]->Show(widget, face);
         }
         MotifQuirks::SetManaged(widget, state.isThere);
     }
 }
 
-void MotifButtonRow::Dress(Widget widget, bool standsOut) {
-    const Widget box = XtParent(widget);
-    const Pixel ground = MotifQuirks::Colour(box, standsOut ? Theme::Accent : Theme::Field);
-    const Pixel text = MotifQuirks::Colour(box, standsOut ? Theme::Field : Theme::Text);
-    const Pixel armed = MotifQuirks::Colour(box, standsOut ? Theme::HeaderText : Theme::Selection);
-    XtVaSetValues(widget, XmNbackground, ground, XmNforeground, text, XmNarmColor, armed, nullptr);
-}
-
-int MotifButtonRow::ButtonWidth(const DialogButtons& buttons, const ZOLDialog& dialog) const {
-    int width = _theme.Pixels(leastWidth);
-    for (const ZOLDialogButton button : DialogButtons::Row)
-        if (buttons.At(button).isThere)
-            width = std::max(width, _measure.GetTextWidth(buttons.GetTitle(button, dialog)) +
-                                        2 * _theme.Pixels(Theme::ButtonWidthMargin));
-    return width;
-}
-
 LayoutSize MotifButtonRow::GetSize(const DialogButtons& buttons, const ZOLDialog& dialog) const {
-    const auto count =
-        static_cast<int>(std::count_if(DialogButtons::Row.begin(), DialogButtons::Row.end(),
-                                       [&](ZOLDialogButton button) { return buttons.At(button).isThere; }));
-    const int gap = _theme.Pixels(Theme::FormSpacing);
-    return {count * ButtonWidth(buttons, dialog) + std::max(0, count - 1) * gap,
-            _measure.GetLineHeight() + 2 * _theme.Pixels(Theme::ButtonHeightMargin)};
+    return ButtonRowLayout(buttons, dialog, _view.GetTextMeasure()).GetSize();
 }
 
 void MotifButtonRow::Place(const DialogButtons& buttons, const ZOLDialog& dialog,
                            const LayoutRectangle& row) {
-    const int width = ButtonWidth(buttons, dialog);
-    int x = row.x + row.width - GetSize(buttons, dialog).width;
-    for (const ZOLDialogButton button : DialogButtons::Row) {
-        if (!buttons.At(button).isThere)
-            continue;
-        MotifQuirks::Configure(GetWidget(button), x, row.y, width, row.height);
-        x += width + _theme.Pixels(Theme::FormSpacing);
+    for (const auto& [button, place] :
+         ButtonRowLayout(buttons, dialog, _view.GetTextMeasure()).PlaceIn(row)) {
+        MotifQuirks::Configure(GetWidget(button), place.x, place.y, place.width, place.height);
+        _faces[static_cast<std::size_t>(button)]->Fit(GetWidget(button));
     }
 }
 

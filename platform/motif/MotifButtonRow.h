@@ -1,25 +1,25 @@
 #pragma once
 
+#include "motif/MotifFace.h"
 #include "toolkit/DialogButtons.h"
 #include "toolkit/LayoutTypes.h"
 
 #include "motif/MotifNative.h"
 
 #include <array>
+#include <memory>
 
 namespace trellis {
 
-class Theme;
-class TextMeasure;
+class MotifView;
 
-// MotifButtonRow: the buttons of a dialog or message box, as children of a native template message box. They
-// stand at the right end of their row, equally wide.
+// MotifButtonRow: the buttons of a dialog or message box, as children of a native template message box.
 class MotifButtonRow {
 public:
     // The box itself, unmanaged, with all four buttons. Return and Escape are the toolkit's matter, so the box
     // knows of no default button.
     static Widget MakeBox(const char* name, Widget parent);
-    MotifButtonRow(Widget box, const Theme& theme, const TextMeasure& measure);
+    MotifButtonRow(MotifView& view, Widget box);
 
     // `dialog` owns the buttons; the default one stands out when it can be pressed.
     void Mirror(const DialogButtons& buttons, const ZOLDialog& dialog, ZOLDialogButton defaultButton);
@@ -31,12 +31,9 @@ public:
     ZOLDialogButton GetButton(Widget widget) const;
 
 private:
-    int ButtonWidth(const DialogButtons& buttons, const ZOLDialog& dialog) const;
-    void Dress(Widget widget, bool standsOut);
-
-    const Theme& _theme;
-    const TextMeasure& _measure;
+    MotifView& _view;
     std::array<Widget, 5> _widgets = {};
+    std::array<std::unique_ptr<MotifFace>, 5> _faces;
 };
 
 } // namespace trellis

@@ -1,5 +1,6 @@
 #include "motif/MotifCanvasPeer.h"
 
+#include "motif/CairoShapes.h"
 #include "motif/MotifView.h"
 #include "toolkit/ZOLDialog.h"
 
@@ -16,7 +17,7 @@ namespace trellis {
 
 namespace {
 
-constexpr int Border = 1;
+constexpr int Border = 2;      // around all: the ring that tells where the keyboard is
 constexpr int DoubleReach = 4; // pixels between the presses of a double click
 constexpr unsigned WheelLeft = 6;
 constexpr unsigned WheelRight = 7;
@@ -47,13 +48,15 @@ Widget MotifCanvasPeer::Build(Widget parent) {
     Connect<&MotifCanvasPeer::ScrolledHorizontally>(_horizontal, XmNdragCallback);
     Connect<&MotifCanvasPeer::ScrolledVertically>(_vertical, XmNvalueChangedCallback);
     Connect<&MotifCanvasPeer::ScrolledVertically>(_vertical, XmNdragCallback);
+    Listen<&MotifCanvasPeer::FrameExposed>(outer, ExposureMask);
     Listen<&MotifCanvasPeer::Happened>(_canvas, ExposureMask | FocusChangeMask | ButtonPressMask |
                                                     ButtonReleaseMask | ButtonMotionMask | KeyPressMask);
     return outer;
 }
 
+// Greyed, it can still be scrolled by its bars, and read.
 void MotifCanvasPeer::Mirror() {
-    MotifPeer::Mirror();
+    MotifQuirks::SetSensitive(_canvas, GetDialog().IsSensitive());
     Refresh();
 }
 
@@ -87,8 +90,8 @@ void MotifCanvasPeer::Arrange() {
     MotifQuirks::Configure(_horizontal, Border, Border + _canvasSize.height, _canvasSize.width, thickness);
     MotifQuirks::SetManaged(_vertical, isTall);
     MotifQuirks::SetManaged(_horizontal, isBroad);
-    ShowRange(_vertical, VerticalRange());
-    ShowRange(_horizontal, HorizontalRange());
+    ShowRange(_vertical, RangeOf(Axis::Vertical));
+    ShowRange(_horizontal, RangeOf(Axis::Horizontal));
 }
 
 // A viewpoint may stand outside of what there is; the bar then reaches as far.
@@ -118,18 +121,27 @@ void MotifCanvasPeer::Repaint() {
     cairo_surface_destroy(surface);
 }
 
-// The frame is what shows of the outer widget; it tells where the keyboard is.
+// What shows of the outer widget around the canvas and the bars: a line, or the broad ring of the focus.
 void MotifCanvasPeer::PaintFrame() {
-    const ThemeColour colour = _hasKeyboard ? Theme::Accent : Theme::BottomShadow;
-    if (colour == _frameColour)
+    const Widget outer = GetWidget();
+    if (!outer || !XtIsRealized(outer))
         return;
-    _frameColour = colour;
-    XtVaSetValues(GetWidget(), XmNbackground, MotifQuirks::Colour(GetWidget(), colour), nullptr);
+    cairo_surface_t* surface = cairo_xlib_surface_create(
+        XtDisplay(outer), XtWindow(outer), DefaultVisualOfScreen(XtScreen(outer)), _size.width, _size.height);
+    cairo_t* context = cairo_create(surface);
+    const auto fill = [&](int inset, ThemeColour colour) {
+        CairoShapes::Fill(context, {inset, inset, _size.width - 2 * inset, _size.height - 2 * inset}, colour);
+    };
+    fill(0, _hasKeyboard ? Theme::Accent : Theme::Background);
+    if (!_hasKeyboard)
+        fill(Border - 1, Theme::BottomShadow);
+    cairo_destroy(context);
+    cairo_surface_destroy(surface);
 }
 
-MotifCanvasPeer::Mouse MotifCanvasPeer::MouseOf(unsigned button, unsigned state, Time time, int x, int y,
-                                                int rootX, int rootY) const {
-    return {{x, y}, {rootX, rootY}, button, state, time, false};
+void MotifCanvasPeer::FrameExposed(Widget, XEvent* event) {
+    if (event->xexpose.count == 0)
+        PaintFrame();
 }
 
 void MotifCanvasPeer::Happened(Widget, XEvent* event) {
@@ -140,6 +152,8 @@ void MotifCanvasPeer::Happened(Widget, XEvent* event) {
         return;
     case FocusIn:
     case FocusOut:
+        if (event->xfocus.detail == NotifyPointer)
+            return; // the window has the keyboard, and the pointer happens to be here
         _hasKeyboard = event->type == FocusIn;
         Repaint();
         return;
@@ -147,12 +161,10 @@ void MotifCanvasPeer::Happened(Widget, XEvent* event) {
         ButtonPressed(event->xbutton);
         return;
     case ButtonRelease:
-        Released(MouseOf(event->xbutton.button, event->xbutton.state, event->xbutton.time, event->xbutton.x,
-                         event->xbutton.y, event->xbutton.x_root, event->xbutton.y_root));
+        Released(MouseOf(event->xbutton));
         return;
     case MotionNotify:
-        Moved(MouseOf(0, event->xmotion.state, event->xmotion.time, event->xmotion.x, event->xmotion.y,
-                      event->xmotion.x_root, event->xmotion.y_root));
+        Moved(MouseOf(event->xmotion));
         return;
     case KeyPress:
         KeyPressed(event->xkey);
@@ -163,16 +175,12 @@ void MotifCanvasPeer::Happened(Widget, XEvent* event) {
 }
 
 void MotifCanvasPeer::ButtonPressed(const XButtonEvent& event) {
-    Mouse mouse =
-        MouseOf(event.button, event.state, event.time, event.x, event.y, event.x_root, event.y_root);
-    if (event.button == Button4 || event.button == Button5) {
-        Wheeled(mouse, event.button == Button4 ? -1 : 1, (event.state & ShiftMask) != 0);
-        return;
-    }
-    if (event.button == WheelLeft || event.button == WheelRight) {
-        Wheeled(mouse, event.button == WheelLeft ? -1 : 1, true);
-        return;
-    }
+    if (event.button == Button4 || event.button == Button5)
+        return Wheeled(event, (event.state & ShiftMask) != 0 ? Axis::Horizontal : Axis::Vertical,
+                       event.button == Button4 ? -1 : 1);
+    if (event.button == WheelLeft || event.button == WheelRight)
+        return Wheeled(event, Axis::Horizontal, event.button == WheelLeft ? -1 : 1);
+    Mouse mouse = MouseOf(event);
     XmProcessTraversal(_canvas, XmTRAVERSE_CURRENT);
     const auto pause = static_cast<unsigned long>(XtGetMultiClickTime(XtDisplay(_canvas)));
     mouse.isDouble = event.button == _lastPress.button && !_lastPress.isDouble &&
@@ -181,6 +189,14 @@ void MotifCanvasPeer::ButtonPressed(const XButtonEvent& event) {
                      std::abs(mouse.place.y - _lastPress.place.y) <= DoubleReach;
     _lastPress = mouse;
     Pressed(mouse);
+}
+
+void MotifCanvasPeer::Wheeled(const XButtonEvent& event, Axis axis, int steps) {
+    if ((event.state & ControlMask) != 0)
+        return WheeledWithControl(MouseOf(event), -steps);
+    const Range range = RangeOf(axis);
+    ScrollTo(axis, range.first + steps * range.wheel);
+    Refresh();
 }
 
 void MotifCanvasPeer::KeyPressed(XKeyEvent& event) {
@@ -200,11 +216,13 @@ void MotifCanvasPeer::KeyPressed(XKeyEvent& event) {
 }
 
 void MotifCanvasPeer::ScrolledHorizontally(Widget, XtPointer data) {
-    ScrolledTo(true, static_cast<XmScrollBarCallbackStruct*>(data)->value);
+    ScrollTo(Axis::Horizontal, static_cast<XmScrollBarCallbackStruct*>(data)->value);
+    Repaint();
 }
 
 void MotifCanvasPeer::ScrolledVertically(Widget, XtPointer data) {
-    ScrolledTo(false, static_cast<XmScrollBarCallbackStruct*>(data)->value);
+    ScrollTo(Axis::Vertical, static_cast<XmScrollBarCallbackStruct*>(data)->value);
+    Repaint();
 }
 
 } // namespace trellis

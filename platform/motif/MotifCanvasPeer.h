@@ -9,7 +9,7 @@
 namespace trellis {
 
 // MotifCanvasPeer: a peer that paints its dialog by itself: a canvas that takes mouse and keyboard, with a scroll
-// bar on each side that is longer than its room. Painting is buffered, so that nothing flickers.
+// bar on each side that is longer than its room. The wheel scrolls, with Shift sideways. Painting is buffered, so that nothing flickers.
 class MotifCanvasPeer : public MotifPeer {
 public:
     MotifCanvasPeer(MotifView& view, ZOLDialog& dialog);
@@ -27,7 +27,9 @@ protected:
         int shown = 1;
         int total = 1;
         int step = 1;
+        int wheel = 1; // of a step of the wheel
     };
+    enum class Axis { Horizontal, Vertical };
     struct Mouse {
         LayoutPoint place; // in the canvas
         LayoutPoint rootPlace;
@@ -47,17 +49,17 @@ protected:
     virtual LayoutSize ContentSize() = 0;
     // The canvas has another size, or the dialog changed: what depends on either is computed anew.
     virtual void Fit(LayoutSize canvas) = 0;
-    virtual Range HorizontalRange() = 0;
-    virtual Range VerticalRange() = 0;
-    virtual void ScrolledTo(bool isHorizontal, int first) = 0;
+    virtual Range RangeOf(Axis axis) = 0;
+    // Cut to the range; what is seen is brought up to date behind it.
+    virtual void ScrollTo(Axis axis, int first) = 0;
     virtual void Paint(cairo_t* context) = 0;
     // Of each, what it does with the dialog comes last: the peer may be gone then.
     virtual void Pressed(const Mouse& mouse) = 0;
     virtual void Moved(const Mouse& mouse) = 0;
     virtual void Released(const Mouse& mouse) = 0;
     virtual void Typed(const Key& key) = 0;
-    // Steps of the wheel, downwards or to the right.
-    virtual void Wheeled(const Mouse& mouse, int steps, bool isHorizontal) = 0;
+    // Steps of the wheel with Ctrl, upwards; by itself it scrolls.
+    virtual void WheeledWithControl(const Mouse&, int) {}
 
     // Computes, places and paints all anew.
     void Refresh();
@@ -71,11 +73,19 @@ private:
     void Arrange();
     void ShowRange(Widget bar, const Range& range);
     void PaintFrame();
-    Mouse MouseOf(unsigned button, unsigned state, Time time, int x, int y, int rootX, int rootY) const;
+    void FrameExposed(Widget widget, XEvent* event);
+    template <class Event>
+    static Mouse MouseOf(const Event& event) {
+        Mouse mouse{{event.x, event.y}, {event.x_root, event.y_root}, 0, event.state, event.time, false};
+        if constexpr (requires { event.button; })
+            mouse.button = event.button;
+        return mouse;
+    }
 
     void Happened(Widget widget, XEvent* event);
     void ButtonPressed(const XButtonEvent& event);
     void KeyPressed(XKeyEvent& event);
+    void Wheeled(const XButtonEvent& event, Axis axis, int steps);
     void ScrolledHorizontally(Widget widget, XtPointer data);
     void ScrolledVertically(Widget widget, XtPointer data);
 
@@ -85,7 +95,6 @@ private:
     Widget _vertical = nullptr;
     LayoutSize _size;
     LayoutSize _canvasSize{1, 1};
-    ThemeColour _frameColour{0};
     bool _hasKeyboard = false;
     Mouse _lastPress;
 };

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "motif/MotifPeer.h"
+#include "motif/MotifFieldPeer.h"
 
 class ZOLDlgCombo;
 
 namespace trellis {
 
 // MotifComboPeer: shows a combo, fixed or with a field to type in.
-class MotifComboPeer : public MotifPeer {
+class MotifComboPeer : public MotifFieldPeer {
 public:
     MotifComboPeer(MotifView& view, ZOLDlgCombo& combo);
     void Mirror() override;
@@ -15,11 +15,15 @@ public:
 
 protected:
     Widget Build(Widget parent) override;
+    ZOLUnicodeString GetLineText() const override;
 
 private:
     void Chosen(Widget, XtPointer callData);
     void Typed(Widget, XtPointer callData);
     void MirrorLines();
+    void PaintArrow(Widget combo, XEvent* event);
+    void ArrowPressed(Widget combo, XEvent*);
+    void TypingMoved(Widget field, XEvent* event);
     Widget GetField() const;
 
     ZOLDlgCombo& _combo;

@@ -4,33 +4,25 @@
 #include "toolkit/DialogLayout.h"
 #include "toolkit/ZOLDlgContainer.h"
 
-#include <Xm/ScrolledW.h>
-
 namespace trellis {
 
 MotifContainerPeer::MotifContainerPeer(MotifView& view, ZOLDlgContainer& container)
     : MotifHolderPeer(view, container) {}
 
 Widget MotifContainerPeer::Build(Widget parent) {
-    Widget window = XtVaCreateWidget(GetDialog().GetName().ConvertToChar(), xmScrolledWindowWidgetClass,
-                                     parent, XmNscrollingPolicy, XmAUTOMATIC, XmNshadowThickness, 0, nullptr);
-    _surface = MakeSurface("surface", window);
-    OpensMenu(_surface);
-    XtManageChild(_surface);
-    return window;
+    _scroller.emplace(GetView(), GetDialog().GetName().ConvertToChar(), parent);
+    OpensMenu(_scroller->GetSurface());
+    return _scroller->GetWindow();
 }
 
-// The content is laid out by itself: beside a scroll bar it has less width than the layout around knows of.
+// The content is laid out by itself: it may be larger than the layout around knows of.
 void MotifContainerPeer::PlaceContent(const DialogLayout&, const LayoutRectangle& place) {
     const TextMeasure& measure = GetView().GetTextMeasure();
-    const int bar = GetView().GetTheme().Pixels(Theme::ScrollBar) + 6;
-    LayoutSize size = DialogLayout(GetDialog(), measure, {place.width, place.height}).GetSize();
-    if (size.height > place.height)
-        size.width = place.width - bar;
-    const DialogLayout own(GetDialog(), measure, {size.width, place.height});
-    size = own.GetSize();
-    const LayoutRectangle scrolled = MotifQuirks::PlaceOf(_surface);
-    MotifQuirks::Configure(_surface, scrolled.x, scrolled.y, size.width, size.height);
+    const LayoutSize needed = DialogLayout(GetDialog(), measure).GetSize();
+    const LayoutSize room = _scroller->RoomBesideBars({place.width, place.height}, needed);
+    const DialogLayout own(GetDialog(), measure, room);
+    const LayoutSize size = own.GetSize();
+    _scroller->Place(MotifQuirks::PlaceOf(GetWidget()), size);
     MotifHolderPeer::PlaceContent(own, {0, 0, size.width, size.height});
 }
 

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "motif/MotifHolderPeer.h"
+#include "motif/MotifScroller.h"
+
+#include <optional>
 
 class ZOLDlgContainer;
 
@@ -14,10 +17,10 @@ public:
 
 protected:
     Widget Build(Widget parent) override;
-    Widget GetSurface() const override { return _surface; }
+    Widget GetSurface() const override { return _scroller->GetSurface(); }
 
 private:
-    Widget _surface = nullptr;
+    std::optional<MotifScroller> _scroller;
 };
 
 } // namespace trellis

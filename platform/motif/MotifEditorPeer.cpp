@@ -1,11 +1,14 @@
 #include "motif/MotifEditorPeer.h"
 
+#include "motif/MotifView.h"
+#include "toolkit/LayoutMetrics.h"
 #include "toolkit/WeakCommand.h"
 #include "toolkit/ZOLDlgEditor.h"
 
 #include <Xm/ScrolledW.h>
 #include <Xm/Text.h>
 
+#include <algorithm>
 #include <array>
 #include <memory>
 #include <string>
@@ -28,7 +31,7 @@ ZOLUnicodeString TextOf(const XmTextBlockRec& block) {
 } // namespace
 
 MotifEditorPeer::MotifEditorPeer(MotifView& view, ZOLDlgEditor& editor)
-    : MotifPeer(view, editor), _editor(editor) {}
+    : MotifFieldPeer(view, editor), _editor(editor) {}
 
 Widget MotifEditorPeer::Build(Widget parent) {
     const bool isReadOnly = _editor.IsReadOnly();
@@ -43,21 +46,46 @@ Widget MotifEditorPeer::Build(Widget parent) {
     } else {
         _text = XmCreateText(parent, name, arguments.data(), 3);
     }
+    const LayoutMetrics metrics(GetView().GetTextMeasure());
+    constexpr int border = 3; // the ring of the focus and the line around the field
+    XtVaSetValues(_text, XmNmarginWidth, std::max(1, metrics.FieldMargin() - border), XmNmarginHeight,
+                  std::max(0, metrics.TextMargin() - border), nullptr);
     Connect<&MotifEditorPeer::Edits>(_text, XmNmodifyVerifyCallback);
     Connect<&MotifEditorPeer::Entered>(_text, XmNfocusCallback);
     Connect<&MotifEditorPeer::Left>(_text, XmNlosingFocusCallback);
     Connect<&MotifEditorPeer::CaretMoves>(_text, XmNmotionVerifyCallback);
+    if (!_editor.HasSeveralLines())
+        WatchLine(_text);
     OpensMenu(_text);
     return _editor.HasSeveralLines() ? XtParent(_text) : _text;
 }
 
 void MotifEditorPeer::Mirror() {
-    MotifPeer::Mirror();
+    MirrorState();
     MirrorText();
+    MotifFieldPeer::Mirror();
     if (_hasMoved)
         TakeSelection();
     else
         MirrorSelection();
+}
+
+ZOLUnicodeString MotifEditorPeer::GetLineText() const {
+    return _editor.GetText();
+}
+
+ThemeColour MotifEditorPeer::GetGround() const {
+    return _editor.IsReadOnly() ? Theme::GreyedField : MotifFieldPeer::GetGround();
+}
+
+// Greyed, it takes no keys and no focus, but natively it stays alive: its text can still be scrolled and read.
+void MotifEditorPeer::MirrorState() {
+    const bool isSensitive = _editor.IsSensitive();
+    const ThemeColour ink = isSensitive ? Theme::Text : Theme::GreyedText;
+    XtVaSetValues(_text, XmNbackground, MotifQuirks::Colour(_text, GetGround()), XmNforeground,
+                  MotifQuirks::Colour(_text, ink), XmNeditable,
+                  static_cast<Boolean>(isSensitive && !_editor.IsReadOnly()), XmNtraversalOn,
+                  static_cast<Boolean>(isSensitive), nullptr);
 }
 
 void MotifEditorPeer::MirrorText() {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "motif/MotifPeer.h"
+#include "motif/MotifFieldPeer.h"
 
 class ZOLDlgEditor;
 
@@ -8,7 +8,7 @@ namespace trellis {
 
 // MotifEditorPeer: shows an editor of one or several lines. Each edit is tried on the model first; the native
 // field takes what the model took.
-class MotifEditorPeer : public MotifPeer {
+class MotifEditorPeer : public MotifFieldPeer {
 public:
     MotifEditorPeer(MotifView& view, ZOLDlgEditor& editor);
     void Mirror() override;
@@ -16,6 +16,8 @@ public:
 
 protected:
     Widget Build(Widget parent) override;
+    ZOLUnicodeString GetLineText() const override;
+    ThemeColour GetGround() const override;
 
 private:
     void Edits(Widget, XtPointer callData);
@@ -25,6 +27,7 @@ private:
     // The selection of the native field becomes that of the model.
     void TakeSelection();
     void MirrorText();
+    void MirrorState();
     void MirrorSelection();
 
     ZOLDlgEditor& _editor;

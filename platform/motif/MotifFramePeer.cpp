@@ -3,7 +3,7 @@
 #include "motif/MotifView.h"
 #include "toolkit/ZOLDlgFrame.h"
 
-#include <Xm/Label.h>
+#include <algorithm>
 
 namespace trellis {
 
@@ -12,32 +12,32 @@ MotifFramePeer::MotifFramePeer(MotifView& view, ZOLDlgFrame& frame)
 
 Widget MotifFramePeer::Build(Widget parent) {
     Widget surface = MotifHolderPeer::Build(parent);
-    _title = XtVaCreateWidget("frameTitle", xmLabelWidgetClass, surface, XmNmarginWidth, 0, XmNmarginHeight,
-                              0, XmNrecomputeSize, False, nullptr);
-    OpensMenu(_title);
+    _title.emplace(GetView(), surface, "frameTitle");
+    OpensMenu(_title->GetWidget());
     Listen<&MotifFramePeer::Exposed>(surface, ExposureMask);
     return surface;
 }
 
 void MotifFramePeer::Mirror() {
     MotifHolderPeer::Mirror();
-    if (_frame.HasTitle())
-        MotifQuirks::SetLabel(_title, _frame.GetTitle());
     PlaceTitle();
-    MotifQuirks::SetManaged(_title, _frame.HasTitle());
+    _title->Show(_frame.GetTitle(), _frame.IsSensitive());
+    _title->SetManaged(_frame.HasTitle());
 }
 
 void MotifFramePeer::PlaceTitle() {
     const TextMeasure& measure = GetView().GetTextMeasure();
     const int indent = GetView().GetTheme().Pixels(_frame.HasBorder() ? Theme::CellPadding : 0);
-    MotifQuirks::Configure(_title, indent, 0, measure.GetTextWidth(_frame.GetTitle()) + 2,
-                           measure.GetLineHeight());
+    const int width = MotifQuirks::PlaceOf(GetWidget()).width - 2 * indent;
+    _title->Place({indent, 0, std::clamp(measure.GetTextWidth(_frame.GetTitle()), 1, std::max(width, 1)),
+                   measure.GetLineHeight()});
 }
 
 void MotifFramePeer::Place(const LayoutRectangle& place) {
     const LayoutRectangle before = MotifQuirks::PlaceOf(GetWidget());
     const bool hasOtherSize = before.width != place.width || before.height != place.height;
     MotifHolderPeer::Place(place);
+    PlaceTitle();
     if (hasOtherSize && XtIsRealized(GetWidget()))
         XClearArea(GetView().GetDisplay(), XtWindow(GetWidget()), 0, 0, 0, 0, True);
 }
@@ -52,7 +52,7 @@ void MotifFramePeer::Exposed(Widget surface, XEvent* event) {
     GC pen = XtGetGC(surface, GCForeground, &values);
     const Window window = XtWindow(surface);
     const LayoutRectangle place = MotifQuirks::PlaceOf(surface);
-    const LayoutRectangle title = MotifQuirks::PlaceOf(_title);
+    const LayoutRectangle title = MotifQuirks::PlaceOf(_title->GetWidget());
     const short top =
         static_cast<short>(_frame.HasTitle() ? GetView().GetTextMeasure().GetLineHeight() / 2 : 0);
     const short right = static_cast<short>(place.width - 1);

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "motif/MotifCaption.h"
 #include "motif/MotifHolderPeer.h"
+
+#include <optional>
 
 class ZOLDlgFrame;
 
@@ -21,7 +24,7 @@ private:
     void PlaceTitle();
 
     ZOLDlgFrame& _frame;
-    Widget _title = nullptr;
+    std::optional<MotifCaption> _title;
 };
 
 } // namespace trellis

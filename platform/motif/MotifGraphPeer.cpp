@@ -60,21 +60,19 @@ void MotifGraphPeer::Fit(LayoutSize canvas) {
     _frame.viewPoint = _viewer.GetViewPoint(Measure());
 }
 
-MotifCanvasPeer::Range MotifGraphPeer::HorizontalRange() {
-    return {_frame.viewPoint.x, _frame.ShownArea().width, _viewer.GetDrawing(Measure()).Size().width,
-            Rounded(WheelPixels / _frame.zoom)};
+MotifCanvasPeer::Range MotifGraphPeer::RangeOf(Axis axis) {
+    const LayoutSize shown = _frame.ShownArea();
+    const LayoutSize whole = _viewer.GetDrawing(Measure()).Size();
+    const int step = Rounded(WheelPixels / _frame.zoom);
+    if (axis == Axis::Horizontal)
+        return {_frame.viewPoint.x, shown.width, whole.width, step, step};
+    return {_frame.viewPoint.y, shown.height, whole.height, step, step};
 }
 
-MotifCanvasPeer::Range MotifGraphPeer::VerticalRange() {
-    return {_frame.viewPoint.y, _frame.ShownArea().height, _viewer.GetDrawing(Measure()).Size().height,
-            Rounded(WheelPixels / _frame.zoom)};
-}
-
-void MotifGraphPeer::ScrolledTo(bool isHorizontal, int first) {
+void MotifGraphPeer::ScrollTo(Axis axis, int first) {
     LayoutPoint point = _frame.viewPoint;
-    (isHorizontal ? point.x : point.y) = first;
+    (axis == Axis::Horizontal ? point.x : point.y) = first;
     MoveViewPoint(point);
-    Repaint();
 }
 
 // However far the user moves, a part of the drawing stays in sight.
@@ -112,8 +110,6 @@ LayoutRectangle MotifGraphPeer::GetMenuPlace() const {
 }
 
 void MotifGraphPeer::Pressed(const Mouse& mouse) {
-    if (mouse.button == Button3)
-        GetView().NoteGesture(mouse.rootPlace.x, mouse.rootPlace.y);
     if (ZOLGraphNode* node = _painter.HitAt(Picture(), mouse.place).node; node && mouse.button != Button2)
         PressedNode(mouse, node);
     else
@@ -152,15 +148,8 @@ void MotifGraphPeer::Released(const Mouse&) {
     _isDragging = false;
 }
 
-void MotifGraphPeer::Wheeled(const Mouse& mouse, int steps, bool isHorizontal) {
-    if ((mouse.state & ControlMask) != 0) {
-        Zoom(mouse.place, steps < 0 ? ZoomStep : 1 / ZoomStep);
-        return;
-    }
-    const int way = Rounded(steps * WheelPixels / _frame.zoom);
-    MoveViewPoint(
-        {_frame.viewPoint.x + (isHorizontal ? way : 0), _frame.viewPoint.y + (isHorizontal ? 0 : way)});
-    Refresh();
+void MotifGraphPeer::WheeledWithControl(const Mouse& mouse, int steps) {
+    Zoom(mouse.place, steps > 0 ? ZoomStep : 1 / ZoomStep);
 }
 
 void MotifGraphPeer::Zoom(LayoutPoint place, double factor) {
@@ -182,7 +171,9 @@ void MotifGraphPeer::Typed(const Key& key) {
         TypedPlain(key);
         return;
     }
-    if (IsPlus(key.symbol))
+    if (key.symbol == XK_space)
+        _viewer.UserExtendFocus();
+    else if (IsPlus(key.symbol))
         ZoomByKey(ZoomStep);
     else if (IsMinus(key.symbol))
         ZoomByKey(1 / ZoomStep);
@@ -193,7 +184,10 @@ void MotifGraphPeer::Typed(const Key& key) {
 void MotifGraphPeer::TypedPlain(const Key& key) {
     for (const StepKey& stepKey : StepKeys)
         if (stepKey.symbol == key.symbol) {
-            _viewer.UserMoveFocus(stepKey.step);
+            if ((key.state & ShiftMask) != 0)
+                _viewer.UserExtendTo(stepKey.step);
+            else
+                _viewer.UserMoveFocus(stepKey.step);
             return;
         }
     if (key.symbol == XK_space && (key.state & ShiftMask) != 0)

@@ -10,8 +10,7 @@ namespace trellis {
 // MotifGraphPeer: shows a graph. How far it is magnified is kept here alone.
 //
 // Mouse: the left button selects, with Ctrl or Shift extended; the third opens the context of a node; the
-// background is dragged by the left or middle button; the wheel scrolls, with Shift sideways, with Ctrl it
-// magnifies. Keys: arrows move; Space selects, with Shift rejects; + and - open and close; with Ctrl +, - and 0
+// background is dragged by the left or middle button; the wheel magnifies with Ctrl. Keys: arrows move; Space selects, with Shift rejects; + and - open and close; with Ctrl +, - and 0
 // magnify.
 class MotifGraphPeer : public MotifCanvasPeer {
 public:
@@ -21,15 +20,14 @@ public:
 protected:
     LayoutSize ContentSize() override;
     void Fit(LayoutSize canvas) override;
-    Range HorizontalRange() override;
-    Range VerticalRange() override;
-    void ScrolledTo(bool isHorizontal, int first) override;
+    Range RangeOf(Axis axis) override;
+    void ScrollTo(Axis axis, int first) override;
     void Paint(cairo_t* context) override;
     void Pressed(const Mouse& mouse) override;
     void Moved(const Mouse& mouse) override;
     void Released(const Mouse& mouse) override;
     void Typed(const Key& key) override;
-    void Wheeled(const Mouse& mouse, int steps, bool isHorizontal) override;
+    void WheeledWithControl(const Mouse& mouse, int steps) override;
 
 private:
     const TextMeasure& Measure() const;

@@ -6,6 +6,8 @@
 
 #include <Xm/BulletinB.h>
 
+#include <utility>
+
 namespace trellis {
 
 Widget MotifHolderPeer::MakeSurface(const char* name, Widget parent) {
@@ -21,6 +23,8 @@ Widget MotifHolderPeer::Build(Widget parent) {
 
 void MotifHolderPeer::MirrorContent() {
     const Widget surface = GetSurface();
+    const bool isSensitive = GetDialog().IsSensitive();
+    const bool turnsGrey = std::exchange(_wasSensitive, isSensitive) != isSensitive;
     for (ZOLDialog* child : GetDialog().GetChildren()) {
         if (!child->IsLaidOut() || child->IsBeingDestroyed())
             continue;
@@ -30,7 +34,7 @@ void MotifHolderPeer::MirrorContent() {
         const bool isNew = !peer || !peer->GetWidget() || XtParent(peer->GetWidget()) != surface;
         if (isNew)
             peer = &GetView().MakePeer(*child, surface);
-        if (GetView().TakeMark(*child) || isNew)
+        if (GetView().TakeMark(*child) || isNew || turnsGrey)
             peer->Mirror();
         peer->MirrorContent();
     }
@@ -39,6 +43,14 @@ void MotifHolderPeer::MirrorContent() {
 void MotifHolderPeer::PlaceContent(const DialogLayout& layout, const LayoutRectangle& place) {
     for (const ZOLDialog* child : GetDialog().GetChildren())
         PlaceChild(*child, layout, place);
+}
+
+void MotifHolderPeer::CollectStops(std::vector<Widget>& stops) const {
+    MotifPeer::CollectStops(stops);
+    for (const ZOLDialog* child : GetDialog().GetChildren())
+        if (const MotifPeer* peer = GetDialog().ShowsChild(*child) ? GetView().FindPeer(*child) : nullptr;
+            peer && child->IsLaidOut() && child->GetVisibility() == ZOLShown)
+            peer->CollectStops(stops);
 }
 
 void MotifHolderPeer::PlaceChild(const ZOLDialog& child, const DialogLayout& layout,
@@ -52,7 +64,7 @@ void MotifHolderPeer::PlaceChild(const ZOLDialog& child, const DialogLayout& lay
         peer->Place({found->x - corner.x, found->y - corner.y, found->width, found->height});
         peer->PlaceContent(layout, *found);
     }
-    MotifQuirks::SetManaged(peer->GetWidget(), isVisible);
+    peer->SetShown(isVisible);
 }
 
 } // namespace trellis

@@ -2,12 +2,14 @@
 
 #include "motif/MotifPeer.h"
 #include "motif/MotifView.h"
+#include "toolkit/MenuOpening.h"
 #include "toolkit/OpenQuestions.h"
 #include "toolkit/UserKeys.h"
 #include "toolkit/ZOLDlgEditor.h"
 
 #include <X11/Shell.h>
 #include <X11/keysym.h>
+#include <Xm/RowColumn.h>
 
 #include <algorithm>
 
@@ -21,9 +23,22 @@ bool TakesReturn(const ZOLDialog& dialog) {
     return editor && editor->HasSeveralLines() && !editor->IsReadOnly();
 }
 
+// Keys go to the bar itself while a title of it is lit and nothing is open yet.
+bool IsInMenuBar(const XEvent& event) {
+    for (Widget widget = XtWindowToWidget(event.xany.display, event.xany.window); widget;
+         widget = XtParent(widget)) {
+        unsigned char type = XmWORK_AREA;
+        if (XtIsSubclass(widget, xmRowColumnWidgetClass))
+            XtVaGetValues(widget, XmNrowColumnType, &type, nullptr);
+        if (type == XmMENU_BAR)
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
-MotifInput::MotifInput(MotifView& view) : _view(view) {
+MotifInput::MotifInput(MotifView& view) : _view(view), _focus(view) {
     _instance = this;
     for (std::size_t i = 0; i < types.size(); ++i)
         _native[i] = XtSetEventDispatcher(view.GetDisplay(), types[i], &MotifInput::Dispatch);
@@ -60,18 +75,27 @@ ZOLDialog& MotifInput::KeyboardIn(ZOLDialog& window) const {
 // While a question waits, crossing a border means nothing to the windows around.
 bool MotifInput::Takes(XEvent& event) {
     ZOLDialog* window = WindowOf(event);
+    MotifQuirks::TellApart(event);
+    WatchToolTip(event, window);
+    if (event.type == MotionNotify)
+        return false;
     if (event.type == EnterNotify || event.type == LeaveNotify)
         return window && _view.IsAsking();
+    // The native menu would take the release for the next press of that key, which closes it.
+    if (event.type == KeyRelease && event.xkey.keycode == _menuKey)
+        return _menuKey = 0, true;
     if (!window || _view.IsMenuOpen())
         return false;
     if (OpenQuestions::Instance().Blocks(*window)) {
         if (event.type == ButtonPress)
-            _view.RaiseQuestion();
+            _view.RaiseBlocker(*window);
         return true;
     }
-    if (event.type == ButtonPress)
-        _view.NoteGesture(event.xbutton.x_root, event.xbutton.y_root);
-    return event.type == KeyPress && TakesKey(event.xkey, *window);
+    if (event.type == ButtonPress) {
+        _view.NotePress(event.xbutton);
+        _view.ActivateWindow(*window);
+    }
+    return event.type == KeyPress && !IsInMenuBar(event) && TakesKey(event.xkey, *window);
 }
 
 bool MotifInput::TakesKey(XKeyEvent& event, ZOLDialog& window) {
@@ -80,14 +104,42 @@ bool MotifInput::TakesKey(XKeyEvent& event, ZOLDialog& window) {
     ZOLDialog& focus = KeyboardIn(window);
     if (key == XK_Escape)
         return PressKey(window, ZOLUserKey::Escape), true;
+    if (key == XK_F1 && isPlain)
+        return PressKey(focus, ZOLUserKey::F1), true;
     if (key == XK_Menu || (key == XK_F10 && (event.state & ShiftMask)))
-        return OpensMenu(focus);
+        return OpensMenu(focus, event.keycode);
     if ((key == XK_Return || key == XK_KP_Enter) && isPlain && !TakesReturn(focus))
         return PressKey(focus, ZOLUserKey::Return), true;
-    return false;
+    return WalksByKey(event, key, window, focus);
 }
 
-bool MotifInput::OpensMenu(ZOLDialog& focus) {
+bool MotifInput::WalksByKey(const XKeyEvent& event, KeySym key, ZOLDialog& window, ZOLDialog& focus) {
+    const unsigned modifiers = event.state & (ShiftMask | ControlMask | Mod1Mask);
+    if (key == XK_Tab && !(modifiers & ~static_cast<unsigned>(ShiftMask)))
+        return _focus.Step(window, modifiers & ShiftMask ? -1 : 1), true;
+    const bool isBack = key == XK_Up || key == XK_Left;
+    if ((isBack || key == XK_Down || key == XK_Right) && modifiers == 0)
+        return _focus.StepInGroup(focus, isBack ? -1 : 1);
+    const bool isLetter = key > XK_space && key <= XK_asciitilde;
+    return isLetter && (modifiers & ~static_cast<unsigned>(ShiftMask)) == Mod1Mask &&
+           MotifMnemonics::Press(window, static_cast<char>(key), _focus);
+}
+
+// Crossing a border inside a window is a motion, too: not everybody in it asks for those.
+void MotifInput::WatchToolTip(const XEvent& event, const ZOLDialog* window) {
+    const bool isMotion =
+        event.type == MotionNotify && event.xmotion.state >> 8 == 0; // whoever drags reads nothing
+    const bool isCrossing =
+        event.type == EnterNotify || (event.type == LeaveNotify && event.xcrossing.detail == NotifyInferior);
+    if (!window || !(isMotion || isCrossing))
+        _view.GetToolTip().Hide();
+    else if (isMotion)
+        _view.GetToolTip().PointerMoved(*window, {event.xmotion.x_root, event.xmotion.y_root});
+    else
+        _view.GetToolTip().PointerMoved(*window, {event.xcrossing.x_root, event.xcrossing.y_root});
+}
+
+bool MotifInput::OpensMenu(ZOLDialog& focus, unsigned keycode) {
     const MotifPeer* peer = _view.FindPeer(focus);
     if (!peer || !peer->GetWidget() || !XtIsRealized(peer->GetWidget()))
         return false;
@@ -96,7 +148,9 @@ bool MotifInput::OpensMenu(ZOLDialog& focus) {
     Position top = 0;
     XtTranslateCoords(peer->GetWidget(), static_cast<Position>(place.x),
                       static_cast<Position>(place.y + place.height), &left, &top);
-    _view.OpenMenuOf(focus, left, top);
+    _view.NoteGesture(left, top);
+    _menuKey = keycode;
+    OpenMenuByKey(focus);
     return true;
 }
 

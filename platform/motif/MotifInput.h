@@ -1,5 +1,6 @@
 #pragma once
 
+#include "motif/MotifFocus.h"
 #include "motif/MotifNative.h"
 
 #include <array>
@@ -12,7 +13,8 @@ class MotifPeer;
 class MotifView;
 
 // MotifInput: what is done with an input event before the native widgets see it. Windows behind a question get
-// none; Return, Escape and the menu key mean the same in every window and widget. It hooks into the native
+// none; keys that belong to no single widget mean the same in every window: Return, Escape, F1, the menu key, Tab,
+// letters with Alt. It hooks into the native
 // dispatch, so that it works in loops of hosts as well.
 class MotifInput {
 public:
@@ -22,22 +24,26 @@ public:
     MotifInput& operator=(const MotifInput&) = delete;
 
 private:
-    static constexpr std::array<int, 6> types = {KeyPress,      KeyRelease,  ButtonPress,
-                                                 ButtonRelease, EnterNotify, LeaveNotify};
+    static constexpr std::array<int, 7> types = {KeyPress,    KeyRelease,  ButtonPress, ButtonRelease,
+                                                 EnterNotify, LeaveNotify, MotionNotify};
 
     static Boolean Dispatch(XEvent* event);
     // Whether the event goes no further.
     bool Takes(XEvent& event);
     bool TakesKey(XKeyEvent& event, ZOLDialog& window);
-    bool OpensMenu(ZOLDialog& focus);
+    bool WalksByKey(const XKeyEvent& event, KeySym key, ZOLDialog& window, ZOLDialog& focus);
+    bool OpensMenu(ZOLDialog& focus, unsigned keycode);
+    void WatchToolTip(const XEvent& event, const ZOLDialog* window);
     // The window of ours in whose shell the event happened; null when it was in a menu or an unfolded list.
     ZOLDialog* WindowOf(const XEvent& event) const;
     // The dialog that has the keyboard in the shell of a window, else the window.
     ZOLDialog& KeyboardIn(ZOLDialog& window) const;
 
     MotifView& _view;
+    const MotifFocus _focus;
     std::array<XtEventDispatchProc, types.size()> _native = {};
     static inline MotifInput* _instance = nullptr;
+    unsigned _menuKey = 0; // that has opened a menu and is still held
 };
 
 } // namespace trellis

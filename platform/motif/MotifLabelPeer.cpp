@@ -2,24 +2,23 @@
 
 #include "toolkit/ZOLDlgLabel.h"
 
-#include <Xm/Label.h>
-
 namespace trellis {
 
 MotifLabelPeer::MotifLabelPeer(MotifView& view, ZOLDlgLabel& label) : MotifPeer(view, label) {}
 
 Widget MotifLabelPeer::Build(Widget parent) {
-    const MotifQuirks::Text text(GetDialog().GetTitle());
-    Widget label =
-        XtVaCreateWidget(GetDialog().GetName().ConvertToChar(), xmLabelWidgetClass, parent, XmNlabelString,
-                         text.Get(), XmNrecomputeSize, False, XmNalignment, XmALIGNMENT_BEGINNING, nullptr);
-    OpensMenu(label);
-    return label;
+    _caption.emplace(GetView(), parent, GetDialog().GetName().ConvertToChar());
+    OpensMenu(_caption->GetWidget());
+    return _caption->GetWidget();
 }
 
 void MotifLabelPeer::Mirror() {
     MotifPeer::Mirror();
-    MotifQuirks::SetLabel(GetWidget(), GetDialog().GetTitle());
+    _caption->Show(GetDialog().GetTitle(), GetDialog().IsSensitive(), GetMnemonic());
+}
+
+void MotifLabelPeer::Place(const LayoutRectangle& place) {
+    _caption->Place(place);
 }
 
 } // namespace trellis

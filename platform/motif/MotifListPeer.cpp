@@ -107,22 +107,19 @@ void MotifListPeer::TellFirstLine() {
     _columnsOfModel->SetFirstLine(_knownFirstLine);
 }
 
-MotifCanvasPeer::Range MotifListPeer::HorizontalRange() {
-    return {_scrolledX, CanvasSize().width, _columns.TotalWidth(), WheelPixels};
+MotifCanvasPeer::Range MotifListPeer::RangeOf(Axis axis) {
+    if (axis == Axis::Horizontal)
+        return {_scrolledX, CanvasSize().width, _columns.TotalWidth(), WheelPixels, WheelPixels};
+    return {_scroll.First(), _scroll.Page(), _order.Count(), 1, WheelRows};
 }
 
-MotifCanvasPeer::Range MotifListPeer::VerticalRange() {
-    return {_scroll.First(), _scroll.Page(), _order.Count(), 1};
-}
-
-void MotifListPeer::ScrolledTo(bool isHorizontal, int first) {
-    if (isHorizontal) {
+void MotifListPeer::ScrollTo(Axis axis, int first) {
+    if (axis == Axis::Horizontal) {
         _scrolledX = std::clamp(first, 0, std::max(_columns.TotalWidth() - CanvasSize().width, 0));
-    } else {
-        _scroll.SetFirst(first);
-        TellFirstLine();
+        return;
     }
-    Repaint();
+    _scroll.SetFirst(first);
+    TellFirstLine();
 }
 
 ListPicture MotifListPeer::Picture() const {
@@ -197,14 +194,6 @@ void MotifListPeer::Released(const Mouse& mouse) {
 void MotifListPeer::EndDrag() {
     _drag = Drag::Nothing;
     _dragColumn = _dropPosition = -1;
-}
-
-void MotifListPeer::Wheeled(const Mouse&, int steps, bool isHorizontal) {
-    if (isHorizontal)
-        ScrolledTo(true, _scrolledX + steps * WheelPixels);
-    else
-        ScrolledTo(false, _scroll.First() + steps * WheelRows);
-    Refresh();
 }
 
 void MotifListPeer::Typed(const Key& key) {

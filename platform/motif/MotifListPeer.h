@@ -27,15 +27,13 @@ protected:
     Widget Build(Widget parent) override;
     LayoutSize ContentSize() override;
     void Fit(LayoutSize canvas) override;
-    Range HorizontalRange() override;
-    Range VerticalRange() override;
-    void ScrolledTo(bool isHorizontal, int first) override;
+    Range RangeOf(Axis axis) override;
+    void ScrollTo(Axis axis, int first) override;
     void Paint(cairo_t* context) override;
     void Pressed(const Mouse& mouse) override;
     void Moved(const Mouse& mouse) override;
     void Released(const Mouse& mouse) override;
     void Typed(const Key& key) override;
-    void Wheeled(const Mouse& mouse, int steps, bool isHorizontal) override;
 
 private:
     // What the left button does between press and release.

@@ -1,7 +1,7 @@
 #include "motif/MotifMenu.h"
 
 #include "motif/MotifQuirks.h"
-#include "toolkit/ZOLDlgContextualMenu.h"
+#include "toolkit/Mnemonics.h"
 #include "toolkit/ZOLDlgPushItem.h"
 #include "toolkit/ZOLDlgSeparatorItem.h"
 #include "toolkit/ZOLDlgSubMenu.h"
@@ -15,60 +15,106 @@
 
 namespace trellis {
 
+namespace {
+
+// A pane that would be higher than the screen gets as many columns as it needs.
+void FitToScreen(Widget pane) {
+    XtWidgetGeometry natural = {};
+    XtQueryGeometry(pane, nullptr, &natural);
+    const int screen = HeightOfScreen(XtScreen(pane));
+    const int columns = (natural.height + screen - 1) / screen;
+    if (columns > 1)
+        XtVaSetValues(pane, XmNpacking, XmPACK_COLUMN, XmNnumColumns, columns, nullptr);
+}
+
+} // namespace
+
+MotifMenu::MotifMenu(Widget application) : _application(application) {}
+
 MotifMenu::~MotifMenu() {
     Discard();
 }
 
 void MotifMenu::Discard() {
     _items.clear();
-    if (Widget menu = std::exchange(_menu, nullptr)) {
-        XtRemoveCallback(menu, MotifQuirks::Name(XmNdestroyCallback), &MotifMenu::GoneCB, this);
-        XtRemoveCallback(menu, MotifQuirks::Name(XmNunmapCallback), &MotifMenu::DownCB, this);
-        XtDestroyWidget(menu);
-    }
+    Widget pane = std::exchange(_pane, nullptr);
+    if (!pane)
+        return;
+    XtRemoveCallback(pane, MotifQuirks::Name(XmNdestroyCallback), &MotifMenu::GoneCB, this);
+    XtRemoveCallback(pane, MotifQuirks::Name(XmNunmapCallback), &MotifMenu::DownCB, this);
+    if (_isPopup)
+        XtDestroyWidget(pane);
+    else
+        MotifQuirks::DestroyChildren(pane);
 }
 
-void MotifMenu::Open(ZOLDlgContextualMenu& menu, Widget parent, int rootX, int rootY) {
+void MotifMenu::Begin(ZOLDlgMenuPane& menu, Widget pane) {
     Discard();
     _model = WeakCommand(&menu);
     _isDown = false;
+    _pane = pane;
+    XtAddCallback(pane, MotifQuirks::Name(XmNdestroyCallback), &MotifMenu::GoneCB, this);
+    XtAddCallback(pane, MotifQuirks::Name(XmNunmapCallback), &MotifMenu::DownCB, this);
+    FillPane(pane, menu);
+}
+
+void MotifMenu::Fill(ZOLDlgMenuPane& menu, Widget pane) {
+    Begin(menu, pane);
+    _isPopup = false;
+}
+
+void MotifMenu::PopUp(ZOLDlgMenuPane& menu, const MenuGesture& gesture) {
     Arg enabled = {MotifQuirks::Name(XmNpopupEnabled), XmPOPUP_KEYBOARD};
-    _menu = XmCreatePopupMenu(parent, MotifQuirks::Name("contextualMenu"), &enabled, 1);
-    XtAddCallback(_menu, MotifQuirks::Name(XmNdestroyCallback), &MotifMenu::GoneCB, this);
-    XtAddCallback(_menu, MotifQuirks::Name(XmNunmapCallback), &MotifMenu::DownCB, this);
-    Fill(_menu, menu);
-    XButtonPressedEvent place = {};
-    place.x_root = rootX;
-    place.y_root = rootY;
-    XmMenuPosition(_menu, &place);
-    XtManageChild(_menu);
+    Begin(menu, XmCreatePopupMenu(_application, MotifQuirks::Name("contextualMenu"), &enabled, 1));
+    _isPopup = true;
+    XButtonEvent place = gesture.press.value_or(XButtonEvent());
+    place.x_root = gesture.x;
+    place.y_root = gesture.y;
+    if (gesture.press)
+        MotifQuirks::NoteMenuPress(_application, place);
+    XmMenuPosition(_pane, &place);
+    XtManageChild(_pane);
+    if (!gesture.press)
+        XmProcessTraversal(_pane, XmTRAVERSE_CURRENT);
 }
 
-void MotifMenu::Fill(Widget pane, const ZOLDialog& holder) {
-    for (ZOLDialog* item : holder.GetChildren())
-        if (item->GetVisibility() == ZOLShown && !item->IsBeingDestroyed())
-            AddItem(pane, *item);
+void MotifMenu::FillPane(Widget pane, const ZOLDialog& holder) {
+    std::vector<ZOLDialog*> shown;
+    std::vector<ZOLUnicodeString> titles;
+    for (ZOLDialog* item : holder.GetChildren()) {
+        if (item->GetVisibility() != ZOLShown || item->IsBeingDestroyed())
+            continue;
+        shown.push_back(item);
+        titles.push_back(dynamic_cast<ZOLDlgSeparatorItem*>(item) ? ZOLUnicodeString() : item->GetTitle());
+    }
+    const std::vector<char> mnemonics = Mnemonics(titles);
+    std::vector<Widget> widgets;
+    for (std::size_t i = 0; i < shown.size(); ++i)
+        widgets.push_back(MakeItem(pane, *shown[i], mnemonics[i]));
+    XtManageChildren(widgets.data(), static_cast<Cardinal>(widgets.size()));
+    FitToScreen(pane);
 }
 
-void MotifMenu::AddItem(Widget pane, ZOLDialog& item) {
+Widget MotifMenu::MakeItem(Widget pane, ZOLDialog& item, char mnemonic) {
     char* name = MotifQuirks::Name(item.GetName().ConvertToChar());
-    if (dynamic_cast<ZOLDlgSeparatorItem*>(&item)) {
-        XtVaCreateManagedWidget(name, xmSeparatorWidgetClass, pane, nullptr);
-        return;
-    }
+    if (dynamic_cast<ZOLDlgSeparatorItem*>(&item))
+        return XtVaCreateWidget(name, xmSeparatorWidgetClass, pane, nullptr);
     const MotifQuirks::Text text(item.GetTitle());
-    const Boolean isSensitive = item.GetSensitivity() == ZOLActive;
-    if (dynamic_cast<ZOLDlgSubMenu*>(&item)) {
+    const bool isSubMenu = dynamic_cast<ZOLDlgSubMenu*>(&item);
+    // Arrows walk within one group: no item may be a group of its own, as buttons elsewhere are.
+    Widget made =
+        XtVaCreateWidget(name, isSubMenu ? xmCascadeButtonWidgetClass : xmPushButtonWidgetClass, pane,
+                         XmNlabelString, text.Get(), XmNmnemonic, static_cast<KeySym>(mnemonic), XmNsensitive,
+                         item.GetSensitivity() == ZOLActive, XmNnavigationType, XmNONE, nullptr);
+    if (isSubMenu) {
         Widget subMenu = XmCreatePulldownMenu(pane, name, nullptr, 0);
-        Fill(subMenu, item);
-        XtVaCreateManagedWidget(name, xmCascadeButtonWidgetClass, pane, XmNlabelString, text.Get(),
-                                XmNsubMenuId, subMenu, XmNsensitive, isSensitive, nullptr);
-        return;
+        FillPane(subMenu, item);
+        XtVaSetValues(made, XmNsubMenuId, subMenu, nullptr);
+        return made;
     }
-    Widget button = XtVaCreateManagedWidget(name, xmPushButtonWidgetClass, pane, XmNlabelString, text.Get(),
-                                            XmNsensitive, isSensitive, nullptr);
-    XtAddCallback(button, MotifQuirks::Name(XmNactivateCallback), &MotifMenu::ChosenCB, this);
-    _items.emplace(button, WeakCommand(&item));
+    XtAddCallback(made, MotifQuirks::Name(XmNactivateCallback), &MotifMenu::ChosenCB, this);
+    _items.emplace(made, WeakCommand(&item));
+    return made;
 }
 
 void MotifMenu::ChosenCB(Widget button, XtPointer self, XtPointer) {
@@ -83,18 +129,22 @@ void MotifMenu::DownCB(Widget, XtPointer self, XtPointer) {
     static_cast<MotifMenu*>(self)->_isDown = true;
 }
 
-// The window with the menu went.
+// The window with the menu bar went.
 void MotifMenu::GoneCB(Widget, XtPointer self, XtPointer) {
     auto* menu = static_cast<MotifMenu*>(self);
-    menu->_menu = nullptr;
+    menu->_pane = nullptr;
     menu->_items.clear();
     menu->_isDown = true;
 }
 
+void MotifMenu::TakeDown() {
+    XtUnmanageChild(_pane);
+}
+
 void MotifMenu::Settle() {
-    auto* model = dynamic_cast<ZOLDlgContextualMenu*>(_model.Get());
-    if (_menu && !_isDown && !(model && model->IsOpen()))
-        XtUnmanageChild(_menu);
+    auto* model = dynamic_cast<ZOLDlgMenuPane*>(_model.Get());
+    if (IsOpen() && !(model && model->IsOpen()))
+        TakeDown();
     if (!_isDown)
         return;
     _isDown = false;

@@ -4,38 +4,55 @@
 
 #include "motif/MotifNative.h"
 
+#include <optional>
 #include <unordered_map>
+#include <vector>
 
 class ZOLDialog;
-class ZOLDlgContextualMenu;
+class ZOLDlgMenuPane;
 
 namespace trellis {
 
-// MotifMenu: the contextual menu that is open. Its native widgets live from opening to closing; the items of the
-// model are built anew each time.
+// The gesture that brings a menu up.
+struct MenuGesture {
+    int x = 0; // place on the root window
+    int y = 0;
+    std::optional<XButtonEvent> press; // none for a key
+};
+
+// MotifMenu: the menu that is open: a contextual one, or one of a menu bar. The native items live from opening to
+// closing; they are built anew each time.
 class MotifMenu {
 public:
-    MotifMenu() = default;
+    // Contextual menus hang on a shell that is always there and never seen.
+    explicit MotifMenu(Widget application);
     ~MotifMenu();
     MotifMenu(const MotifMenu&) = delete;
     MotifMenu& operator=(const MotifMenu&) = delete;
 
-    // Pops the menu up at a place of the root window.
-    void Open(ZOLDlgContextualMenu& menu, Widget parent, int rootX, int rootY);
-    bool IsOpen() const { return _menu && !_isDown; }
+    // Pops a contextual menu up at the place of the gesture. After a press it stays until the next one when the
+    // button is let go at once, else the release chooses; after a key its first item is armed.
+    void PopUp(ZOLDlgMenuPane& menu, const MenuGesture& gesture);
+    // Fills the native pane of a menu of a bar, which the native bar is about to show.
+    void Fill(ZOLDlgMenuPane& menu, Widget pane);
+    bool IsOpen() const { return _pane && !_isDown; }
     // Once per turn: brings the native menu and that of the model to agree. A menu that went down closes that of
     // the model only now, when the chosen item has been told: an item of a closed menu takes no press.
     void Settle();
 
 private:
-    void Fill(Widget pane, const ZOLDialog& holder);
-    void AddItem(Widget pane, ZOLDialog& item);
+    void Begin(ZOLDlgMenuPane& menu, Widget pane);
+    void FillPane(Widget pane, const ZOLDialog& holder);
+    Widget MakeItem(Widget pane, ZOLDialog& item, char mnemonic);
     void Discard();
+    void TakeDown();
     static void ChosenCB(Widget item, XtPointer self, XtPointer);
     static void DownCB(Widget, XtPointer self, XtPointer);
     static void GoneCB(Widget, XtPointer self, XtPointer);
 
-    Widget _menu = nullptr;
+    Widget _application;
+    Widget _pane = nullptr;
+    bool _isPopup = false; // else the pane belongs to a menu bar
     WeakCommand _model;
     std::unordered_map<Widget, WeakCommand> _items;
     bool _isDown = false;

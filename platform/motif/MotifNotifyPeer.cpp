@@ -46,7 +46,7 @@ ZOLDialog* MotifNotifyPeer::GetBelow() const {
 
 void MotifNotifyPeer::BuildContent(Widget shell) {
     _box = MotifButtonRow::MakeBox("box", shell);
-    _buttons.emplace(_box, GetView().GetTheme(), GetView().GetTextMeasure());
+    _buttons.emplace(GetView(), _box);
     for (const ZOLDialogButton button : DialogButtons::Row)
         Connect<&MotifNotifyPeer::Pressed>(_buttons->GetWidget(button), XmNactivateCallback);
     _mark = XtVaCreateManagedWidget("mark", xmDrawingAreaWidgetClass, _box, XmNtraversalOn, False, nullptr);

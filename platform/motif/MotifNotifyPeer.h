@@ -20,6 +20,7 @@ public:
 protected:
     void BuildContent(Widget shell) override;
     LayoutSize LayOut(LayoutSize size) override;
+    const MotifButtonRow* GetButtons() const override { return _buttons ? &*_buttons : nullptr; }
     ZOLDialog* GetBelow() const override;
 
 private:

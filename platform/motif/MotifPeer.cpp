@@ -1,8 +1,11 @@
 #include "motif/MotifPeer.h"
 
+#include "motif/MotifFocus.h"
 #include "motif/MotifPeerTable.h"
 #include "motif/MotifView.h"
-#include "toolkit/ZOLDialog.h"
+#include "toolkit/ZOLDlgLabel.h"
+#include "toolkit/ZOLDlgPushButton.h"
+#include "toolkit/ZOLDlgToggleButton.h"
 
 namespace trellis {
 
@@ -32,6 +35,10 @@ void MotifPeer::MarkForMirror() {
 
 void MotifPeer::Create(Widget parent) {
     _widget = Build(parent);
+    // Native widgets keep motions from the windows around them, so each is asked for its own; tool tips need them.
+    for (Widget widget : {_widget, GetFocusWidget()})
+        if (widget)
+            XtAddEventHandler(widget, PointerMotionMask, False, &MotifPeer::IgnoreCB, nullptr);
     XtAddCallback(_widget, MotifQuirks::Name(XmNdestroyCallback), &MotifPeer::WidgetGoneCB, GetKey());
 }
 
@@ -48,7 +55,7 @@ void MotifPeer::WidgetGone(Widget widget) {
 }
 
 void MotifPeer::Mirror() {
-    MotifQuirks::SetSensitive(_widget, _dialog.GetSensitivity() == ZOLActive);
+    MotifQuirks::SetSensitive(_widget, _dialog.IsSensitive());
 }
 
 void MotifPeer::Place(const LayoutRectangle& place) {
@@ -58,6 +65,33 @@ void MotifPeer::Place(const LayoutRectangle& place) {
 void MotifPeer::PlaceContent(const DialogLayout&, const LayoutRectangle&) {}
 
 void MotifPeer::MirrorContent() {}
+
+void MotifPeer::SetShown(bool isShown) {
+    MotifQuirks::SetManaged(_widget, isShown);
+}
+
+void MotifPeer::CollectStops(std::vector<Widget>& stops) const {
+    const Widget focus = _widget && XtIsManaged(_widget) ? GetFocusWidget() : nullptr;
+    if (!focus || !_dialog.IsSensitive())
+        return;
+    Boolean takesKeyboard = False;
+    XtVaGetValues(focus, XmNtraversalOn, &takesKeyboard, nullptr);
+    if (takesKeyboard && MotifFocus::IsStop(_dialog))
+        stops.push_back(focus);
+}
+
+// Labels and buttons end in an ellipsis where they are too narrow.
+ZOLUnicodeString MotifPeer::GetHiddenText(const LayoutPoint&) const {
+    const bool isText = dynamic_cast<ZOLDlgLabel*>(&_dialog) || dynamic_cast<ZOLDlgPushButton*>(&_dialog) ||
+                        dynamic_cast<ZOLDlgToggleButton*>(&_dialog);
+    if (isText && _dialog.GetNaturalSize(_view.GetTextMeasure()).width > MotifQuirks::PlaceOf(_widget).width)
+        return _dialog.GetTitle();
+    return {};
+}
+
+char MotifPeer::GetMnemonic() const {
+    return _view.GetMnemonics().Of(_dialog);
+}
 
 LayoutRectangle MotifPeer::GetMenuPlace() const {
     return {0, MotifQuirks::PlaceOf(_widget).height, 1, 1};
@@ -69,7 +103,7 @@ void MotifPeer::OpensMenu(Widget widget) {
 
 void MotifPeer::ContextGesture(Widget, XEvent* event) {
     if (event->xbutton.button == Button3)
-        _view.OpenMenuOf(_dialog, event->xbutton.x_root, event->xbutton.y_root);
+        _view.OpenMenuOf(_dialog);
 }
 
 } // namespace trellis

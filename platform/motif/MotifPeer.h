@@ -6,7 +6,10 @@
 
 #include "motif/MotifNative.h"
 
+#include <vector>
+
 class ZOLDialog;
+class ZOLUnicodeString;
 
 namespace trellis {
 
@@ -44,8 +47,14 @@ public:
     virtual void PlaceContent(const DialogLayout& layout, const LayoutRectangle& place);
     // For holders: makes and mirrors the peers of what they hold.
     virtual void MirrorContent();
+    // Shows it where it stands, or takes it off its holder.
+    virtual void SetShown(bool isShown);
     // The widget that takes the keyboard; null when none does.
     virtual Widget GetFocusWidget() const { return nullptr; }
+    // Appends the widgets at which Tab stops, in their order.
+    virtual void CollectStops(std::vector<Widget>& stops) const;
+    // The whole text of what stands at a place of the widget but does not fit; empty for none.
+    virtual ZOLUnicodeString GetHiddenText(const LayoutPoint& place) const;
     // Where a contextual menu opened by key appears, in pixels of the widget.
     virtual LayoutRectangle GetMenuPlace() const;
 
@@ -53,6 +62,8 @@ protected:
     // Makes the outermost widget, unmanaged, and all in it.
     virtual Widget Build(Widget parent) = 0;
     MotifView& GetView() const { return _view; }
+    // The letter of the title that chooses the dialog; 0 for none.
+    char GetMnemonic() const;
 
     // Calls a method `void (Widget, XtPointer callData)` of the peer for a native callback, unless the
     // program itself caused it. The dialog is mirrored again afterwards: the widget may show what the model
@@ -84,6 +95,7 @@ private:
     void MarkForMirror();
     void ContextGesture(Widget widget, XEvent* event);
     void WidgetGone(Widget widget);
+    static void IgnoreCB(Widget, XtPointer, XEvent*, Boolean*) {}
     static void WidgetGoneCB(Widget widget, XtPointer key, XtPointer);
 
     template <auto Method>

@@ -8,6 +8,7 @@
 #include "motif/MotifHolderPeer.h"
 #include "motif/MotifLabelPeer.h"
 #include "motif/MotifListPeer.h"
+#include "motif/MotifMenuBarPeer.h"
 #include "motif/MotifNotifyPeer.h"
 #include "motif/MotifPushButtonPeer.h"
 #include "motif/MotifSeparatorPeer.h"
@@ -21,6 +22,7 @@
 #include "toolkit/ZOLDlgFrame.h"
 #include "toolkit/ZOLDlgLabel.h"
 #include "toolkit/ZOLDlgList.h"
+#include "toolkit/ZOLDlgMenuBar.h"
 #include "toolkit/ZOLDlgNotify.h"
 #include "toolkit/ZOLDlgPushButton.h"
 #include "toolkit/ZOLDlgSeparator.h"
@@ -46,7 +48,7 @@ std::unique_ptr<MotifPeer> MakeFor(MotifView& view, ZOLDialog& dialog) {
 }
 
 // Sought from the top. Pages and places for native widgets are plain holders.
-constexpr std::array<Maker, 14> makers = {
+constexpr std::array<Maker, 15> makers = {
     &MakeFor<ZOLDlgWindow, MotifWindowPeer>,
     &MakeFor<ZOLDlgNotify, MotifNotifyPeer>,
     &MakeFor<ZOLDlgFrame, MotifFramePeer>,
@@ -61,6 +63,7 @@ constexpr std::array<Maker, 14> makers = {
     &MakeFor<ZOLDlgSplitter, MotifSplitterPeer>,
     &MakeFor<ZOLDlgContainer, MotifContainerPeer>,
     &MakeFor<ZOLDlgSeparator, MotifSeparatorPeer>,
+    &MakeFor<ZOLDlgMenuBar, MotifMenuBarPeer>,
 };
 
 std::unique_ptr<MotifPeer> MakeByClass(MotifView& view, ZOLDialog& dialog) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "motif/MotifFace.h"
 #include "motif/MotifPeer.h"
 
 class ZOLDlgPushButton;
@@ -11,6 +12,7 @@ class MotifPushButtonPeer : public MotifPeer {
 public:
     MotifPushButtonPeer(MotifView& view, ZOLDlgPushButton& button);
     void Mirror() override;
+    void Place(const LayoutRectangle& place) override;
     Widget GetFocusWidget() const override { return GetWidget(); }
 
 protected:
@@ -20,6 +22,7 @@ private:
     void Pressed(Widget, XtPointer);
 
     ZOLDlgPushButton& _button;
+    MotifFace _face;
 };
 
 } // namespace trellis

@@ -5,10 +5,30 @@
 #include <X11/IntrinsicP.h> // XtConfigureWidget
 
 #include <algorithm>
+#include <bit>
+#include <cmath>
+#include <optional>
+#include <utility>
+#include <vector>
 
 namespace trellis {
 
 namespace {
+
+// The pixel where the bits of a pixel are the colour itself, as on nearly all screens: the server need not be asked.
+std::optional<Pixel> TrueColour(const Visual& visual, ThemeColour colour) {
+    if (visual.c_class != TrueColor)
+        return std::nullopt;
+    Pixel pixel = 0;
+    for (const auto& [mask, value] :
+         {std::pair(visual.red_mask, colour.Red()), std::pair(visual.green_mask, colour.Green()),
+          std::pair(visual.blue_mask, colour.Blue())}) {
+        const int shift = std::countr_zero(mask);
+        const auto most = static_cast<double>(mask >> shift);
+        pixel |= static_cast<Pixel>(std::lround(value * most)) << shift;
+    }
+    return pixel;
+}
 
 Dimension Size(int pixels) {
     return static_cast<Dimension>(std::clamp(pixels, 1, 32000));
@@ -32,6 +52,9 @@ void MotifQuirks::SetLabel(Widget label, const ZOLUnicodeString& text) {
 }
 
 Pixel MotifQuirks::Colour(Widget widget, ThemeColour colour) {
+    Screen* screen = XtScreenOfObject(widget);
+    if (const auto pixel = TrueColour(*DefaultVisualOfScreen(screen), colour))
+        return *pixel;
     const auto part = [](double value) { return static_cast<unsigned short>(value * 65535); };
     Colormap map = 0;
     XtVaGetValues(widget, XmNcolormap, &map, nullptr);
@@ -39,7 +62,14 @@ Pixel MotifQuirks::Colour(Widget widget, ThemeColour colour) {
     wanted.red = part(colour.Red());
     wanted.green = part(colour.Green());
     wanted.blue = part(colour.Blue());
-    return XAllocColor(XtDisplay(widget), map, &wanted) ? wanted.pixel : BlackPixelOfScreen(XtScreen(widget));
+    return XAllocColor(XtDisplay(widget), map, &wanted) ? wanted.pixel : BlackPixelOfScreen(screen);
+}
+
+LayoutPoint MotifQuirks::RootPlaceOf(Widget widget) {
+    Position x = 0;
+    Position y = 0;
+    XtTranslateCoords(widget, 0, 0, &x, &y);
+    return {x, y};
 }
 
 LayoutRectangle MotifQuirks::PlaceOf(Widget widget) {
@@ -61,6 +91,45 @@ void MotifQuirks::SetSensitive(Widget widget, bool isSensitive) {
 void MotifQuirks::Configure(Widget widget, int x, int y, int width, int height) {
     XtConfigureWidget(widget, static_cast<Position>(x), static_cast<Position>(y), Size(width), Size(height),
                       0);
+}
+
+void MotifQuirks::DestroyChildren(Widget widget) {
+    WidgetList list = nullptr;
+    Cardinal count = 0;
+    XtVaGetValues(widget, XmNchildren, &list, XmNnumChildren, &count, nullptr);
+    std::vector<Widget> children(list, list + count);
+    XtUnmanageChildren(children.data(), count);
+    children.insert(children.end(), widget->core.popup_list,
+                    widget->core.popup_list + widget->core.num_popups);
+    for (Widget child : children)
+        XtDestroyWidget(child);
+}
+
+void MotifQuirks::NoteMenuPress(Widget shell, XButtonEvent press) {
+    XEvent event = {};
+    press.button = Button3;
+    press.state = 0;
+    event.xbutton = press;
+    XtDispatchEventToWidget(shell, &event);
+}
+
+void MotifQuirks::Redraw(Widget widget) {
+    if (const Window window = XtWindow(widget))
+        XClearArea(XtDisplay(widget), window, 0, 0, 0, 0, True);
+}
+
+void MotifQuirks::TellApart(XEvent& event) {
+    static Time last = 0;
+    if (event.type < KeyPress || event.type > ButtonRelease)
+        return;
+    Time& time = event.type <= KeyRelease ? event.xkey.time : event.xbutton.time;
+    if (time <= last && last - time < 10)
+        time = last + 1;
+    last = time;
+}
+
+void MotifQuirks::LeaveScrollKeys(Widget scrolledWindow) {
+    XtUninstallTranslations(scrolledWindow);
 }
 
 void MotifQuirks::SetManaged(Widget widget, bool isManaged) {

@@ -3,6 +3,7 @@
 #include "motif/MotifNative.h"
 #include "motif/Theme.h"
 #include "toolkit/LayoutTypes.h"
+#include "toolkit/TreeLayout.h"
 
 #include <string>
 
@@ -48,14 +49,30 @@ public:
     static void SetLabel(Widget label, const ZOLUnicodeString& text);
     // The pixel of a colour on the screen of a widget; black where the screen has no more colours.
     static Pixel Colour(Widget widget, ThemeColour colour);
+    // The top left corner of a widget on the root window; asks the server nothing.
+    static LayoutPoint RootPlaceOf(Widget widget);
     // Where a widget stands in its parent.
     static LayoutRectangle PlaceOf(Widget widget);
     // Greys a widget or not, when it is not so already.
     static void SetSensitive(Widget widget, bool isSensitive);
     // Moves and sizes a widget; sizes of 0, which the server refuses, become 1.
     static void Configure(Widget widget, int x, int y, int width, int height);
+    // Destroys what stands in a widget, and the menus that hang on it.
+    static void DestroyChildren(Widget widget);
+    // Lets the native menus know of the press that brings a popup menu up, which must have been made on that
+    // shell. They tell a click, after which the menu stays, from a drag by the time of the press, and look only
+    // at presses of the third button on the widget on which the menu was made.
+    static void NoteMenuPress(Widget shell, XButtonEvent press);
+    // Has a widget draw all of it again, behind what is under way.
+    static void Redraw(Widget widget);
+    // Menus take two events of a button or key that came within one millisecond for one, and pass the second
+    // over: gives it a time of its own. For all events that reach menus, in their order.
+    static void TellApart(XEvent& event);
     // Manages or unmanages, when it is not so already.
     static void SetManaged(Widget widget, bool isManaged);
+    // A scrolled window takes Home, End, Page Up and Page Down away from whatever in it has the keyboard; lists and
+    // fields want them themselves. Before it is realized.
+    static void LeaveScrollKeys(Widget scrolledWindow);
 };
 
 } // namespace trellis

@@ -1,7 +1,10 @@
 #include "motif/MotifShellPeer.h"
 
+#include "motif/MotifButtonRow.h"
 #include "motif/MotifView.h"
+#include "motif/WindowIcon.h"
 #include "toolkit/ZOLDialog.h"
+#include "toolkit/ZOLDlgWindow.h"
 
 #include <X11/Shell.h>
 
@@ -31,7 +34,7 @@ Widget MotifShellPeer::Build(Widget parent) {
     const Atom closing = XInternAtom(XtDisplay(shell), "WM_DELETE_WINDOW", False);
     const Atom protocols = XInternAtom(XtDisplay(shell), "WM_PROTOCOLS", False);
     ConnectProtocol<&MotifShellPeer::CloseBox>(shell, protocols, closing);
-    Listen<&MotifShellPeer::Resized>(shell, StructureNotifyMask);
+    Listen<&MotifShellPeer::Happened>(shell, StructureNotifyMask);
     BuildContent(shell);
     return shell;
 }
@@ -40,12 +43,56 @@ void MotifShellPeer::CloseBox(Widget, XtPointer) {
     Close();
 }
 
-void MotifShellPeer::Resized(Widget, XEvent* event) {
+void MotifShellPeer::Happened(Widget, XEvent* event) {
+    if (event->type == MapNotify || event->type == UnmapNotify)
+        _isMapped = event->type == MapNotify;
+    if (event->type == MapNotify && std::exchange(_wantsKeyboard, false))
+        TakeKeyboard();
     if (event->type != ConfigureNotify)
         return;
+    Moved(event->xconfigure);
     const LayoutSize size = {event->xconfigure.width, event->xconfigure.height};
     _size = size; // also when it is the old one: the native box has moved its buttons
+    if (auto* window = dynamic_cast<ZOLDlgWindow*>(&GetDialog()))
+        window->SetShownSize(size);
     GetView().MarkLayout(GetDialog());
+}
+
+// What lies between the corner of the frame and that of the window. Asks the server, so once for each window.
+LayoutPoint MotifShellPeer::FrameWidths() const {
+    Display* display = XtDisplay(GetShell());
+    Window frame = XtWindow(GetShell());
+    for (;;) {
+        Window root = 0;
+        Window parent = 0;
+        Window* children = nullptr;
+        unsigned count = 0;
+        if (!XQueryTree(display, frame, &root, &parent, &children, &count))
+            return {};
+        if (children)
+            XFree(children);
+        if (parent == root || parent == 0)
+            break;
+        frame = parent;
+    }
+    int x = 0;
+    int y = 0;
+    Window child = 0;
+    XTranslateCoordinates(display, XtWindow(GetShell()), frame, 0, 0, &x, &y, &child);
+    return {x, y};
+}
+
+// Places of the root window are told by a window manager in an event that it sends itself; what the server tells
+// is the place in a frame.
+void MotifShellPeer::Moved(const XConfigureEvent& event) {
+    if (!_isMapped || (_hasManager && !event.send_event))
+        return;
+    if (!_frameWidths)
+        _frameWidths = _hasManager ? FrameWidths() : LayoutPoint();
+    const LayoutPoint place = {event.x - _frameWidths->x, event.y - _frameWidths->y};
+    if (std::exchange(_place, place) == place)
+        return;
+    GetDialog().SetRectPosition(place.x, place.y);
 }
 
 LayoutSize MotifShellPeer::ScreenSize() const {
@@ -54,12 +101,17 @@ LayoutSize MotifShellPeer::ScreenSize() const {
     return {WidthOfScreen(screen) - frame, HeightOfScreen(screen) - frame};
 }
 
-// The window grows with what it holds, as far as the screen goes; it never shrinks by itself.
+// The window grows with what it holds, as far as the screen goes; it never shrinks by itself, and stays as small
+// as the user made it.
 void MotifShellPeer::FitSize() {
     const LayoutSize needed = LayOut(_size);
+    const LayoutSize before = std::exchange(_needed, needed);
     const LayoutSize screen = ScreenSize();
-    const LayoutSize fitting = {std::max(_size.width, std::min(needed.width, screen.width)),
-                                std::max(_size.height, std::min(needed.height, screen.height))};
+    const auto grown = [](int size, int now, int then, int most) {
+        return now > then ? std::max(size, std::min(now, most)) : size;
+    };
+    const LayoutSize fitting = {grown(_size.width, needed.width, before.width, screen.width),
+                                grown(_size.height, needed.height, before.height, screen.height)};
     if (fitting == _size)
         return;
     _size = fitting;
@@ -86,7 +138,31 @@ void MotifShellPeer::ChoosePlace() {
     }
     x = std::clamp(x, 0, std::max(0, screen.width - _size.width));
     y = std::clamp(y, 0, std::max(0, screen.height - _size.height));
+    _place = {x, y};
     XtVaSetValues(GetShell(), XmNx, x, XmNy, y, nullptr);
+}
+
+void MotifShellPeer::MirrorPlace() {
+    const LayoutHints& hints = GetDialog().GetLayoutHints();
+    if (!hints.hasPosition || (hints.position.x == _place.x && hints.position.y == _place.y))
+        return;
+    _place = {hints.position.x, hints.position.y};
+    XtVaSetValues(GetShell(), XmNx, _place.x, XmNy, _place.y, nullptr);
+}
+
+// Window managers of today read the second property, in UTF-8.
+void MotifShellPeer::MirrorTitle() {
+    const std::string title = GetDialog().GetTitle().Bytes();
+    if (std::exchange(_title, title) == title && _isUp)
+        return;
+    XtVaSetValues(GetShell(), XmNtitle, title.c_str(), XmNiconName, title.c_str(), nullptr);
+    if (!XtIsRealized(GetShell()))
+        XtRealizeWidget(GetShell());
+    Display* display = XtDisplay(GetShell());
+    for (const char* property : {"_NET_WM_NAME", "_NET_WM_ICON_NAME"})
+        XChangeProperty(display, XtWindow(GetShell()), XInternAtom(display, property, False),
+                        XInternAtom(display, "UTF8_STRING", False), 8, PropModeReplace,
+                        reinterpret_cast<const unsigned char*>(title.data()), static_cast<int>(title.size()));
 }
 
 void MotifShellPeer::MirrorWindow() {
@@ -96,21 +172,50 @@ void MotifShellPeer::MirrorWindow() {
             XtPopdown(GetShell());
         return;
     }
-    const std::string title = GetDialog().GetTitle().Bytes();
-    XtVaSetValues(GetShell(), XmNtitle, title.c_str(), XmNiconName, title.c_str(), nullptr);
     Mirror();
     MirrorContent();
     FitSize();
+    if (_isUp)
+        MirrorPlace();
+    else
+        ChoosePlace();
+    MirrorTitle();
     if (std::exchange(_isUp, true))
         return;
-    ChoosePlace();
+    // Whoever manages windows has asked the root window to be told first.
+    XWindowAttributes root;
+    XGetWindowAttributes(XtDisplay(GetShell()), RootWindowOfScreen(XtScreen(GetShell())), &root);
+    _hasManager = root.all_event_masks & SubstructureRedirectMask;
+    _wantsKeyboard = true;
     XtPopup(GetShell(), XtGrabNone);
+    if (!GetShellBelow())
+        WindowIcon::Set(XtDisplay(GetShell()), XtWindow(GetShell()));
     LayOut(_size); // realized, the native box has put its buttons where it likes
 }
 
 void MotifShellPeer::Raise() {
     if (_isUp && XtIsRealized(GetShell()))
         XMapRaised(XtDisplay(GetShell()), XtWindow(GetShell()));
+}
+
+// A window that is not there yet cannot have the keyboard.
+void MotifShellPeer::TakeKeyboard() {
+    if (_hasManager)
+        return;
+    if (_isMapped)
+        XSetInputFocus(XtDisplay(GetShell()), XtWindow(GetShell()), RevertToPointerRoot, CurrentTime);
+    else
+        _wantsKeyboard = true;
+}
+
+void MotifShellPeer::CollectStops(std::vector<Widget>& stops) const {
+    MotifHolderPeer::CollectStops(stops);
+    const MotifButtonRow* row = GetButtons();
+    if (!row)
+        return;
+    for (const ZOLDialogButton button : DialogButtons::Row)
+        if (Widget widget = row->GetWidget(button); XtIsManaged(widget) && XtIsSensitive(widget))
+            stops.push_back(widget);
 }
 
 void MotifShellPeer::SetCursor(unsigned int shape) {

@@ -5,6 +5,8 @@
 #include "toolkit/ZOLDlgSplitter.h"
 
 #include <X11/cursorfont.h>
+#include <X11/keysym.h>
+#include <Xm/DrawingA.h>
 
 #include <algorithm>
 
@@ -14,6 +16,7 @@ namespace {
 
 constexpr int sashWidth = 6;
 constexpr int leastExtent = 24;
+constexpr int keyStep = 16; // of an arrow key, in pixels of the plain theme
 
 } // namespace
 
@@ -40,6 +43,7 @@ std::vector<MotifSplitterPeer::Part> MotifSplitterPeer::PartsOf(const DialogLayo
         const int least = std::min(0, leastExtent - parts[i].extent);
         const int most = std::max(0, parts[i + 1].extent - leastExtent);
         const int moved = std::clamp(_moved[parts[i].dialog->GetNumber()], least, most);
+        _taken[parts[i].dialog->GetNumber()] = moved;
         parts[i].extent += moved;
         parts[i + 1].extent -= moved;
     }
@@ -75,12 +79,8 @@ void MotifSplitterPeer::PlacePart(const Part& part, int from, const LayoutRectan
 }
 
 void MotifSplitterPeer::PlaceSash(std::size_t index, int from, const LayoutRectangle& place) {
-    if (index == _sashes.size()) {
-        Widget sash = MakeSurface("sash", GetWidget());
-        Listen<&MotifSplitterPeer::Grabbed>(sash, ButtonPressMask);
-        Listen<&MotifSplitterPeer::Dragged>(sash, Button1MotionMask);
-        _sashes.push_back(sash);
-    }
+    if (index == _sashes.size())
+        MakeSash();
     Widget sash = _sashes[index];
     if (IsBeside())
         MotifQuirks::Configure(sash, from, 0, sashWidth, place.height);
@@ -94,16 +94,62 @@ void MotifSplitterPeer::PlaceSash(std::size_t index, int from, const LayoutRecta
                   GetView().GetCursor(IsBeside() ? XC_sb_h_double_arrow : XC_sb_v_double_arrow));
 }
 
-void MotifSplitterPeer::Grabbed(Widget sash, XEvent* event) {
-    const auto index = std::find(_sashes.begin(), _sashes.end(), sash) - _sashes.begin();
-    int position = 0;
+void MotifSplitterPeer::MakeSash() {
+    Widget sash = XtVaCreateWidget("sash", xmDrawingAreaWidgetClass, GetWidget(), XmNmarginWidth, 0,
+                                   XmNmarginHeight, 0, XmNresizePolicy, XmRESIZE_NONE, XmNtraversalOn, True,
+                                   XmNnavigationType, XmTAB_GROUP, nullptr);
+    Listen<&MotifSplitterPeer::Grabbed>(sash, ButtonPressMask);
+    Listen<&MotifSplitterPeer::Dragged>(sash, Button1MotionMask);
+    Listen<&MotifSplitterPeer::KeyPressed>(sash, KeyPressMask);
+    Listen<&MotifSplitterPeer::FocusMoved>(sash, FocusChangeMask);
+    _sashes.push_back(sash);
+}
+
+void MotifSplitterPeer::CollectStops(std::vector<Widget>& stops) const {
+    std::size_t index = 0;
     for (const ZOLDialog* child : GetDialog().GetChildren()) {
-        if (child->GetVisibility() != ZOLShown || position++ != index)
+        if (child->GetVisibility() != ZOLShown || child->IsBeingDestroyed())
             continue;
-        _grabbed = child->GetNumber();
-        _movedBefore = _moved[_grabbed];
-        _grabbedAt = IsBeside() ? event->xbutton.x_root : event->xbutton.y_root;
+        if (index > 0 && index <= _sashes.size() && XtIsManaged(_sashes[index - 1]))
+            stops.push_back(_sashes[index - 1]);
+        if (const MotifPeer* peer = GetView().FindPeer(*child))
+            peer->CollectStops(stops);
+        ++index;
     }
+}
+
+ZOLDialog* MotifSplitterPeer::PartBefore(Widget sash) const {
+    auto index = std::find(_sashes.begin(), _sashes.end(), sash) - _sashes.begin();
+    for (ZOLDialog* child : GetDialog().GetChildren())
+        if (child->GetVisibility() == ZOLShown && index-- == 0)
+            return child;
+    return nullptr;
+}
+
+void MotifSplitterPeer::Grabbed(Widget sash, XEvent* event) {
+    const ZOLDialog* part = PartBefore(sash);
+    if (!part)
+        return;
+    _grabbed = part->GetNumber();
+    _movedBefore = _taken[_grabbed];
+    _grabbedAt = IsBeside() ? event->xbutton.x_root : event->xbutton.y_root;
+}
+
+void MotifSplitterPeer::KeyPressed(Widget sash, XEvent* event) {
+    const KeySym key = XLookupKeysym(&event->xkey, 0);
+    const KeySym less = IsBeside() ? XK_Left : XK_Up;
+    const KeySym more = IsBeside() ? XK_Right : XK_Down;
+    const ZOLDialog* part = PartBefore(sash);
+    if (!part || (key != less && key != more))
+        return;
+    const int step = GetView().GetTheme().Pixels(keyStep);
+    _moved[part->GetNumber()] = _taken[part->GetNumber()] + (key == less ? -step : step);
+    GetView().Changed(GetDialog());
+}
+
+void MotifSplitterPeer::FocusMoved(Widget sash, XEvent* event) {
+    const ThemeColour colour = event->type == FocusIn ? Theme::Accent : Theme::Background;
+    XtVaSetValues(sash, XmNbackground, MotifQuirks::Colour(sash, colour), nullptr);
 }
 
 void MotifSplitterPeer::Dragged(Widget, XEvent* event) {

@@ -9,11 +9,13 @@ class ZOLDlgSplitter;
 
 namespace trellis {
 
-// MotifSplitterPeer: shows a splitter: between two neighbours lies a bar that the user can drag.
+// MotifSplitterPeer: shows a splitter: between two neighbours lies a bar that the user can drag,
+// or move with the arrow keys.
 class MotifSplitterPeer : public MotifHolderPeer {
 public:
     MotifSplitterPeer(MotifView& view, ZOLDlgSplitter& splitter);
     void PlaceContent(const DialogLayout& layout, const LayoutRectangle& place) override;
+    void CollectStops(std::vector<Widget>& stops) const override;
 
 protected:
     Widget Build(Widget parent) override;
@@ -28,11 +30,17 @@ private:
     void PlacePart(const Part& part, int from, const LayoutRectangle& place);
     void PlaceSash(std::size_t index, int from, const LayoutRectangle& place);
     bool IsBeside() const;
+    void MakeSash();
+    ZOLDialog* PartBefore(Widget sash) const;
     void Grabbed(Widget sash, XEvent* event);
+    void KeyPressed(Widget sash, XEvent* event);
+    void FocusMoved(Widget sash, XEvent* event);
     void Dragged(Widget sash, XEvent* event);
 
     std::vector<Widget> _sashes;
-    std::unordered_map<long, int> _moved; // by number of the dialog in front: pixels that the user gave it
+    // By number of the dialog in front: pixels that the user gave it, and those that it could take.
+    std::unordered_map<long, int> _moved;
+    std::unordered_map<long, int> _taken;
     long _grabbed = 0;
     int _grabbedAt = 0;
     int _movedBefore = 0;

@@ -1,6 +1,7 @@
 // Opening the display: locale, resources, fonts.
 
 #include "motif/AppDefaults.h"
+#include "motif/DisplayErrors.h"
 #include "motif/MotifQuirks.h"
 #include "motif/MotifView.h"
 #include "toolkit/MotifToolkit.h"
@@ -108,6 +109,7 @@ MotifView* MotifView::Start(int& argc, char** argv, ZOLGYRError& error) {
             error.Add(wanted);
         return nullptr;
     }
+    DisplayErrors::Watch(display);
     const Theme theme = ChooseTheme(display);
     Widget application =
         XtVaAppCreateShell(applicationName, applicationClass, applicationShellWidgetClass, display,
@@ -120,6 +122,10 @@ MotifView* MotifView::Start(int& argc, char** argv, ZOLGYRError& error) {
 
 bool MotifToolkit::Start(int& argc, char** argv, ZOLGYRError& error) {
     return MotifView::Start(argc, argv, error);
+}
+
+void MotifToolkit::WhenDisplayIsLost(std::function<int()> action) {
+    DisplayErrors::SetLostAction(std::move(action));
 }
 
 void MotifToolkit::Run() {

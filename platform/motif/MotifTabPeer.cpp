@@ -92,6 +92,10 @@ void MotifTabPeer::DrawTab(cairo_t* context, const Tab& tab) {
     CairoShapes::SetColour(context, tab.page->IsSensitive() ? Theme::Text : Theme::GreyedText);
     _text.Draw(context, title, tab.x + (tab.width - _text.Width(title, weight)) / 2, Theme::RowPadding,
                weight);
+    if (const std::size_t letter = title.find(GetView().GetMnemonics().Of(*tab.page));
+        letter != std::string::npos)
+        _text.Underline(context, title, letter, tab.x + (tab.width - _text.Width(title, weight)) / 2,
+                        Theme::RowPadding, _text.Width(title, weight), weight);
     if (!isChosen)
         return;
     CairoShapes::Fill(context, {tab.x + 2, height - 3, tab.width - 4, 3}, Theme::Accent);

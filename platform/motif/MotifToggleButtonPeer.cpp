@@ -7,15 +7,13 @@
 namespace trellis {
 
 MotifToggleButtonPeer::MotifToggleButtonPeer(MotifView& view, ZOLDlgToggleButton& button)
-    : MotifPeer(view, button), _button(button) {}
+    : MotifPeer(view, button),
+      _button(button),
+      _face(view, dynamic_cast<ZOLDlgRadioButton*>(&button) ? Face::Radio : Face::Check) {}
 
 Widget MotifToggleButtonPeer::Build(Widget parent) {
-    const MotifQuirks::Text text(_button.GetTitle());
-    const bool isRadio = dynamic_cast<ZOLDlgRadioButton*>(&_button);
-    Widget button =
-        XtVaCreateWidget(_button.GetName().ConvertToChar(), xmToggleButtonWidgetClass, parent, XmNlabelString,
-                         text.Get(), XmNrecomputeSize, False, XmNalignment, XmALIGNMENT_BEGINNING,
-                         XmNindicatorType, isRadio ? XmONE_OF_MANY_ROUND : XmN_OF_MANY, nullptr);
+    Widget button = XtVaCreateWidget(_button.GetName().ConvertToChar(), xmToggleButtonWidgetClass, parent,
+                                     XmNrecomputeSize, False, nullptr);
     Connect<&MotifToggleButtonPeer::Toggled>(button, XmNvalueChangedCallback);
     OpensMenu(button);
     return button;
@@ -23,9 +21,19 @@ Widget MotifToggleButtonPeer::Build(Widget parent) {
 
 void MotifToggleButtonPeer::Mirror() {
     MotifPeer::Mirror();
-    MotifQuirks::SetLabel(GetWidget(), _button.GetTitle());
+    Face face;
+    face.text = _button.GetTitle().Bytes();
+    face.isSensitive = _button.IsSensitive();
+    face.mnemonic = GetMnemonic();
+    face.isOn = _button.IsOn();
+    _face.Show(GetWidget(), face);
     if (XmToggleButtonGetState(GetWidget()) != _button.IsOn())
         XmToggleButtonSetState(GetWidget(), _button.IsOn(), False);
+}
+
+void MotifToggleButtonPeer::Place(const LayoutRectangle& place) {
+    MotifPeer::Place(place);
+    _face.Fit(GetWidget());
 }
 
 void MotifToggleButtonPeer::Toggled(Widget, XtPointer) {

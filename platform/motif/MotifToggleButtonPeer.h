@@ -1,5 +1,6 @@
 #pragma once
 
+#include "motif/MotifFace.h"
 #include "motif/MotifPeer.h"
 
 class ZOLDlgToggleButton;
@@ -11,6 +12,7 @@ class MotifToggleButtonPeer : public MotifPeer {
 public:
     MotifToggleButtonPeer(MotifView& view, ZOLDlgToggleButton& button);
     void Mirror() override;
+    void Place(const LayoutRectangle& place) override;
     Widget GetFocusWidget() const override { return GetWidget(); }
 
 protected:
@@ -20,6 +22,7 @@ private:
     void Toggled(Widget, XtPointer);
 
     ZOLDlgToggleButton& _button;
+    MotifFace _face;
 };
 
 } // namespace trellis

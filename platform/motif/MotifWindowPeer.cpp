@@ -12,7 +12,6 @@ namespace {
 
 constexpr unsigned long secondaryBit = 0x200;
 constexpr unsigned long modalBit = 0x2000000;
-constexpr int edge = Theme::FormMargin / 2; // around the layout, which has a margin of its own
 
 } // namespace
 
@@ -22,16 +21,16 @@ MotifWindowPeer::MotifWindowPeer(MotifView& view, ZOLDlgWindow& window)
 void MotifWindowPeer::BuildContent(Widget shell) {
     if (_asDialog) {
         _box = MotifButtonRow::MakeBox("box", shell);
-        _buttons.emplace(_box, GetView().GetTheme(), GetView().GetTextMeasure());
+        _buttons.emplace(GetView(), _box);
         for (const ZOLDialogButton button : DialogButtons::Row)
             Connect<&MotifWindowPeer::Pressed>(_buttons->GetWidget(button), XmNactivateCallback);
     } else {
         _box = MakeSurface("box", shell);
     }
-    _surface = MakeSurface("surface", _box);
-    OpensMenu(_surface);
-    XtVaSetValues(_box, XmNinitialFocus, _surface, nullptr);
-    XtManageChild(_surface);
+    _scroller.emplace(GetView(), "content", _box);
+    OpensMenu(_scroller->GetSurface());
+    XtVaSetValues(_box, XmNinitialFocus, _scroller->GetWindow(), nullptr);
+    XtManageChild(_scroller->GetWindow());
     XtManageChild(_box);
 }
 
@@ -40,27 +39,36 @@ bool MotifWindowPeer::StaysAbove() const {
 }
 
 void MotifWindowPeer::Mirror() {
-    MotifQuirks::SetSensitive(_box, _window.GetSensitivity() == ZOLActive);
     if (_buttons)
         _buttons->Mirror(_asDialog->GetButtons(), _window, _asDialog->GetDefaultButton());
 }
 
 LayoutSize MotifWindowPeer::LayOut(LayoutSize size) {
-    const LayoutSize buttons = _buttons ? _buttons->GetSize(_asDialog->GetButtons(), _window) : LayoutSize();
-    const LayoutSize room = {std::max(size.width - 2 * edge, buttons.width + 2 * edge),
-                             size.height - 2 * edge};
-    const DialogLayout layout(_window, GetView().GetTextMeasure(), room);
+    const TextMeasure& measure = GetView().GetTextMeasure();
+    const LayoutSize needed = DialogLayout(_window, measure).GetSize();
+    size = {size.width > 0 ? size.width : needed.width, size.height > 0 ? size.height : needed.height};
+    const DialogLayout layout(_window, measure, _scroller->RoomBesideBars(size, needed));
     const LayoutSize laid = layout.GetSize();
     const LayoutRectangle row = layout.GetButtonRow();
-    const int contentHeight = _buttons ? row.y : laid.height;
-    MotifQuirks::Configure(_box, 0, 0, laid.width + 2 * edge, laid.height + 2 * edge);
-    MotifQuirks::Configure(_surface, edge, edge, laid.width, contentHeight);
+    const bool scrolls = needed.height > size.height || needed.width > size.width;
+    const int footer = _buttons ? laid.height - row.y : 0;
+    const int gap = _buttons && scrolls ? row.x : 0; // else what is above ends in room enough
+    MotifQuirks::Configure(_box, 0, 0, size.width, size.height);
+    _scroller->Place({0, 0, size.width, std::max(1, size.height - footer - gap)},
+                     {laid.width, laid.height - footer});
     PlaceContent(layout, {0, 0, laid.width, laid.height});
     if (_buttons)
-        _buttons->Place(
-            _asDialog->GetButtons(), _window,
-            {edge + row.x, edge + row.y + row.height - buttons.height, row.width, buttons.height});
-    return {laid.width + 2 * edge, laid.height + 2 * edge};
+        _buttons->Place(_asDialog->GetButtons(), _window,
+                        {row.x, size.height - footer, size.width - 2 * row.x, row.height});
+    return WithBar(needed);
+}
+
+// What is too high for the screen gets a scroll bar, and the window room for it.
+LayoutSize MotifWindowPeer::WithBar(LayoutSize needed) const {
+    const LayoutSize screen = ScreenSize();
+    if (needed.height > screen.height)
+        needed.width += needed.width - _scroller->RoomBesideBars({needed.width, screen.height}, needed).width;
+    return needed;
 }
 
 void MotifWindowPeer::Close() {

@@ -12,7 +12,10 @@ public:
 
     int GetTextWidth(const ZOLUnicodeString& line) const override;
     int GetCharacterWidth() const override { return _text.CharacterWidth(); }
+    // The painter with which it measures, for whoever draws such texts.
+    TextPainter& GetPainter() const { return _text; }
     int GetLineHeight() const override { return _text.LineHeight(); }
+    int GetPixels(int plain) const override { return _theme.Pixels(plain); }
     int GetRowHeight() const override { return GetLineHeight() + 2 * _theme.Pixels(Theme::RowPadding); }
 
 private:

@@ -1,6 +1,8 @@
 #include "motif/TextPainter.h"
 
 #include <algorithm>
+#include <cmath>
+#include <cstdlib>
 
 namespace trellis {
 
@@ -125,6 +127,19 @@ void TextPainter::DrawWithin(cairo_t* context, std::string_view text, double x, 
                              Weight weight, Alignment alignment) {
     if (width > 0 && !text.empty())
         Show(context, LayoutOf(text, width, weight, alignment), x, y);
+}
+
+void TextPainter::Underline(cairo_t* context, std::string_view text, std::size_t byte, double x, double y,
+                            int width, Weight weight, Alignment alignment) {
+    if (width <= 0 || text.empty())
+        return;
+    PangoRectangle place;
+    pango_layout_index_to_pos(LayoutOf(text, width, weight, alignment), static_cast<int>(byte), &place);
+    const double left = x + std::floor(static_cast<double>(place.x) / PANGO_SCALE);
+    const double wide = std::ceil(static_cast<double>(std::abs(place.width)) / PANGO_SCALE);
+    const double line = std::floor(y + static_cast<double>(_baseLine) / PANGO_SCALE) + 2;
+    cairo_rectangle(context, left, line, wide, 1);
+    cairo_fill(context);
 }
 
 } // namespace trellis

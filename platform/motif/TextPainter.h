@@ -36,6 +36,10 @@ public:
     void DrawWithin(cairo_t* context, std::string_view text, double x, double y, int width,
                     Weight weight = Plain, Alignment alignment = Leading);
 
+    // A line below the one-byte character at that byte of a text that DrawWithin has drawn there.
+    void Underline(cairo_t* context, std::string_view text, std::size_t byte, double x, double y, int width,
+                   Weight weight = Plain, Alignment alignment = Leading);
+
 private:
     template <class Type>
     struct Unref {

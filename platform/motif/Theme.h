@@ -28,7 +28,7 @@ public:
     static constexpr ThemeColour Background{0xf3f4f6};
     static constexpr ThemeColour Text{0x1f2937};
     static constexpr ThemeColour HeaderText{0x374151};
-    static constexpr ThemeColour GreyedText{0x8b93a1};
+    static constexpr ThemeColour GreyedText{0x667080};
     static constexpr ThemeColour Field{0xffffff}; // editors, lists, graphs
     static constexpr ThemeColour GreyedField{0xf8f9fa};
     static constexpr ThemeColour Header{0xeceef2};
@@ -59,9 +59,6 @@ public:
     static constexpr int CellPadding = 8; // left and right of the text of a cell
     static constexpr int ScrollBar = 12;
     static constexpr int ButtonWidthMargin = 12;
-    static constexpr int ButtonHeightMargin = 5;
-    static constexpr int FormMargin = 12;
-    static constexpr int FormSpacing = 8;
     static constexpr int Indicator = 14;
 
 private:

@@ -1,10 +1,9 @@
-#include "motif/VirtualScreen.h"
+#include "support/VirtualScreen.h"
 
-#include <X11/Xlib.h>
-#include <X11/extensions/XTest.h>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <fcntl.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -18,6 +17,7 @@ VirtualScreen::VirtualScreen() {
         // A test that crashes takes its server with it.
         prctl(PR_SET_PDEATHSIG, SIGKILL);
         close(ends[0]);
+        dup2(open("/dev/null", O_WRONLY), STDERR_FILENO); // it tells of each display number that is taken
         const std::string number = std::to_string(ends[1]);
         execlp("Xvfb", "Xvfb", "-displayfd", number.c_str(), "-screen", "0", "1280x900x24", "-nolisten",
                "tcp", static_cast<char*>(nullptr));
@@ -30,31 +30,13 @@ VirtualScreen::VirtualScreen() {
         number += digit;
     close(ends[0]);
     _display = ":" + number;
-    _connection = number.empty() ? nullptr : XOpenDisplay(_display.c_str());
-    if (!_connection) {
+    if (number.empty()) {
         std::fprintf(stderr, "Xvfb cannot be started\n");
         std::abort();
     }
 }
 
 VirtualScreen::~VirtualScreen() {
-    XCloseDisplay(static_cast<Display*>(_connection));
     kill(_server, SIGTERM);
     waitpid(_server, nullptr, 0);
-}
-
-void VirtualScreen::Click(int rootX, int rootY, unsigned int button) {
-    auto* display = static_cast<Display*>(_connection);
-    XTestFakeMotionEvent(display, -1, rootX, rootY, CurrentTime);
-    XTestFakeButtonEvent(display, button, True, CurrentTime);
-    XTestFakeButtonEvent(display, button, False, CurrentTime);
-    XSync(display, False);
-}
-
-void VirtualScreen::Press(const char* key) {
-    auto* display = static_cast<Display*>(_connection);
-    const KeyCode code = XKeysymToKeycode(display, XStringToKeysym(key));
-    XTestFakeKeyEvent(display, code, True, CurrentTime);
-    XTestFakeKeyEvent(display, code, False, CurrentTime);
-    XSync(display, False);
 }
