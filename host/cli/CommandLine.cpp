@@ -28,8 +28,22 @@ void DeclareOptions(CLI::App& program, HostOptions& options) {
         ->type_name("KEY=VALUE")
         ->expected(1)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    program.add_option("--display", options.display, "X display of the windows")->type_name("NAME");
+    program.add_option("--font-size", options.fontSize, "size of the font of the windows, in points")
+        ->type_name("POINTS")
+        ->check(CLI::Range(6.0, 40.0, "6 to 40"));
+    program.add_option("--font", options.fontFamily, "font of the windows")->type_name("FAMILY");
     program.add_flag("--json", options.json, "write results for programs to read");
     program.fallthrough();
+}
+
+void DeclareGalleryCommand(CLI::App& program, const WindowJobs& windows, Job& job) {
+    CLI::App& command =
+        *program.add_subcommand("gallery", "show every widget of the toolkit, for authors of panels");
+    command.preparse_callback([&windows, &job](std::size_t) { job = windows.gallery; });
+    command.add_flag_callback(
+        "--describe", [&windows, &job] { job = windows.describeGallery; },
+        "write what it shows instead; needs no display");
 }
 
 ExitCode Start(HostOptions options, const Job& job) {
@@ -39,10 +53,10 @@ ExitCode Start(HostOptions options, const Job& job) {
 
 } // namespace
 
-int CommandLine::Run(int argc, const char* const* argv, ExitCode (*runWindows)(HostSession&)) {
+int CommandLine::Run(int argc, const char* const* argv, const WindowJobs& windows) {
     std::setlocale(LC_CTYPE, "");
     HostOptions options;
-    Job job = runWindows;
+    Job job = windows.navigator;
     CLI::App program(Description, "trellis");
     DeclareOptions(program, options);
     program.require_subcommand(0, 1);
@@ -54,6 +68,7 @@ int CommandLine::Run(int argc, const char* const* argv, ExitCode (*runWindows)(H
     DeclareDatabaseCommands(database, job);
     DeclarePeopleCommands(database, job);
     DeclareConfigCommand(program, job);
+    DeclareGalleryCommand(program, windows, job);
     try {
         program.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

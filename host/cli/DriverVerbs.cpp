@@ -71,6 +71,9 @@ constexpr NamedKey keys[] = {
     {"Plus", ZOLUserKey::Plus},
     {"Minus", ZOLUserKey::Minus},
     {"Shift+Space", ZOLUserKey::ShiftSpace},
+    {"Ctrl+Space", ZOLUserKey::CtrlSpace},
+    {"Shift+Up", ZOLUserKey::ShiftUp},
+    {"Shift+Down", ZOLUserKey::ShiftDown},
 };
 
 ZOLUserKey Key(const std::string& word) {

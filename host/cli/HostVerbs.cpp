@@ -48,7 +48,7 @@ void Call(HostSession& session, const std::string& name, const ModuleOperation::
     const ModuleOperation* operation = ModuleOperation::Find(name);
     if (!operation)
         throw ScriptRefusal("the module has no operation " + name);
-    if (operation->takesOnePart && selection.size() != 1)
+    if (operation->most == 1 && selection.size() != 1)
         throw ScriptRefusal(name + " works on one selected part");
     ZOLIQRDCfgInterfaces* module = session.Module();
     if (!module)

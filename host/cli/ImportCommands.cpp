@@ -2,6 +2,7 @@
 
 #include "model/StructureImport.h"
 #include "service/DictionaryImport.h"
+#include "service/ModelImport.h"
 #include "session/MessageOutput.h"
 
 #include <fmt/format.h>
@@ -68,36 +69,57 @@ ExitCode Verdict(const ZOLGYRError& error) {
     }
 }
 
-ExitCode ImportStructure(HostSession& session, const std::string& file) {
+// Opens the database and has `read` import into it; `tell` prints what was done.
+template <class Report, class Read, class Tell>
+ExitCode Import(HostSession& session, const Read& read, const Tell& tell) {
     if (!session.OpenDatabase())
         return ExitCode::EnvironmentFailed;
     ZOLGYRError error;
-    ImportReport report;
+    Report report;
     {
         ProgressLine line;
-        StructureImport::ReadFile(file, report, error, line.Callback());
+        read(report, error, line.Callback());
     }
     PrintProblems(report.problems);
     if (error.GetCode() == 0)
-        fmt::print("parts: {} new, {} changed; links: {} new, {} changed\n", report.newParts,
-                   report.changedParts, report.newLinks, report.changedLinks);
+        tell(report);
     return Verdict(error);
 }
 
+ExitCode ImportStructure(HostSession& session, const std::string& file) {
+    return Import<ImportReport>(
+        session,
+        [&](ImportReport& report, ZOLGYRError& error, const ProgressCB& progress) {
+            StructureImport::ReadFile(file, report, error, progress);
+        },
+        [](const ImportReport& report) {
+            fmt::print("parts: {} new, {} changed; links: {} new, {} changed\n", report.newParts,
+                       report.changedParts, report.newLinks, report.changedLinks);
+        });
+}
+
 ExitCode ImportDictionary(HostSession& session, const std::string& file, const std::string& product) {
-    if (!session.OpenDatabase())
-        return ExitCode::EnvironmentFailed;
-    ZOLGYRError error;
-    DictionaryImportReport report;
-    {
-        ProgressLine line;
-        DictionaryImport::ReadFile(file, product, report, error, line.Callback());
-    }
-    PrintProblems(report.problems);
-    if (error.GetCode() == 0)
-        fmt::print("categories: {} new, {} changed; options: {} new, {} changed\n", report.newCategories,
-                   report.changedCategories, report.newOptions, report.changedOptions);
-    return Verdict(error);
+    return Import<DictionaryImportReport>(
+        session,
+        [&](DictionaryImportReport& report, ZOLGYRError& error, const ProgressCB& progress) {
+            DictionaryImport::ReadFile(file, product, report, error, progress);
+        },
+        [](const DictionaryImportReport& report) {
+            fmt::print("categories: {} new, {} changed; options: {} new, {} changed\n", report.newCategories,
+                       report.changedCategories, report.newOptions, report.changedOptions);
+        });
+}
+
+ExitCode ImportModel(HostSession& session, const std::string& file, const std::string& product) {
+    return Import<ModelImportReport>(
+        session,
+        [&](ModelImportReport& report, ZOLGYRError& error, const ProgressCB& progress) {
+            ModelImport::ReadFile(file, product, report, error, progress);
+        },
+        [](const ModelImportReport& report) {
+            fmt::print("new: {} categories, {} options, {} rules\n", report.categories, report.options,
+                       report.rules);
+        });
 }
 
 } // namespace
@@ -127,6 +149,17 @@ void DeclareImportCommands(CLI::App& program, Job& job) {
     dictionary.callback([&job, arguments] {
         job = [arguments](HostSession& session) {
             return ImportDictionary(session, arguments->file, arguments->product);
+        };
+    });
+
+    CLI::App& model = *import.add_subcommand("model", "a variability model into an empty dictionary");
+    model.add_option("FILE", arguments->file, "the file: .cnf or .dimacs, or UVL")->required();
+    model.add_option("--product", arguments->product, "number of the configurable part, or: corporate")
+        ->type_name("NUMBER")
+        ->required();
+    model.callback([&job, arguments] {
+        job = [arguments](HostSession& session) {
+            return ImportModel(session, arguments->file, arguments->product);
         };
     });
 }

@@ -1,16 +1,23 @@
 #include "navigator/NavigatorWindow.h"
 
-#include "model/DatabaseSession.h"
 #include "model/PartQuery.h"
-#include "model/ZOLDMClipboard.h"
+#include "navigator/NavigatorMenus.h"
+#include "navigator/PictureDialog.h"
+#include "navigator/RenameDialog.h"
+#include "navigator/WindowMemory.h"
 #include "panels/ZOLGYRDlgError.h"
-#include "service/ZOLQRDCfgManager.h"
 #include "site/ZOLIQrdSCManager.h"
+#include "toolkit/GraphExport.h"
 #include "toolkit/ZOLDlgFrame.h"
-#include "toolkit/ZOLDlgNotify.h"
+#include "toolkit/ZOLDlgMenuBar.h"
 #include "toolkit/ZOLDlgPushItem.h"
 #include "toolkit/ZOLDlgSeparatorItem.h"
 #include "toolkit/ZOLDlgSubMenu.h"
+#include "toolkit/ZOLUserDriver.h"
+
+#include <ctime>
+#include <filesystem>
+#include <limits>
 
 namespace trellis {
 
@@ -18,108 +25,228 @@ namespace {
 
 constexpr int NewLine = 64;
 constexpr int MessageLines = 4;
-constexpr int MessageWidth = 100;
+constexpr int MostMessages = 500;
+constexpr int TimeWidth = 9;
+constexpr int MessageWidth = 110;
 constexpr int SearchWidth = 30;
 constexpr int NotFound = 60606;
-constexpr unsigned long QuestionStyle = 0x2000000;
-constexpr int AnswerSave = 1;
-constexpr int AnswerDiscard = 2;
+constexpr int FirstButton = 1;
+constexpr LayoutSize UsualSize = {1040, 780};
 
-ZOLUnicodeString Text(const ZOLDialog& dialog, const char* key,
-                      const ZOLListVal<ZOLUnicodeString>& parameters = {}) {
-    ZOLUnicodeString text;
-    dialog.GetResourceValueFromKey(key, text, parameters);
+ZOLUnicodeString TimeOfDay() {
+    const std::time_t now = std::time(nullptr);
+    char text[16] = "";
+    if (const std::tm* local = std::localtime(&now))
+        std::strftime(text, sizeof text, "%H:%M:%S", local);
     return text;
 }
 
-// The submenus of the structure's menu, with the operations in each.
-struct MenuGroup {
-    const char* name;
-    std::vector<const char*> operations;
-};
-
-const std::vector<MenuGroup>& MenuGroups() {
-    static const std::vector<MenuGroup> groups = {
-        {"Part", {"SetConfigurable", "UnSetConfigurable", "AvailableTypes", "PartCfgAnalysis", "Usage"}},
-        {"Dictionary", {"OpenCategoryManager", "OpenRuleManager", "ImportDictionary", "DeleteDictionary"}},
-        {"Milestones",
-         {"OpenMilestoneManagerDate", "OpenMilestoneManagerRange", "DeleteMilestonesDate",
-          "DeleteMilestonesRange"}},
-        {"Handlers", {"SetConfigHandler", "SetDefaultCH"}},
-        {"Modifications", {"PlannedEffectivity", "Validate", "ModifyStatus", "CleanDatabase"}},
-    };
-    return groups;
+// Person, role and organization, as far as they are known.
+ZOLUnicodeString WhoWorks() {
+    const auto person = GetSecurityManager()->GetCurrentPerson();
+    const auto role = person->GetRole();
+    ZOLUnicodeString who = person->GetName();
+    for (const ZOLUnicodeString& more : {role->GetName(), role->GetOrganization()->GetName()})
+        if (!more.IsEmpty())
+            who += ZOLUnicodeString(", ") + more;
+    return who;
 }
 
 } // namespace
 
 NavigatorWindow::NavigatorWindow(HostSession& session)
-    : ZOLDlgWindow(nullptr, "Navigator"), _session(session) {
-    BuildSearch();
-    _graph = new StructureGraph(this, "Structure");
+    : ZOLDlgWindow(nullptr, "Navigator"),
+      _session(session),
+      _work(*this, _edit,
+            {[this](const ZOLUnicodeString& message) { Note(message); },
+             [this](ZOLGYRError& error) { Report(error); }}) {
+    const std::string file = std::filesystem::path(session.DatabaseFile()).filename().string();
+    SetTitle(Text("Navigator.Title", {file}));
+    const LayoutSize size = WindowMemory::Size().value_or(UsualSize);
+    SetRectDimensions(size.width, size.height);
+    BuildMenuBar();
+    BuildToolBar();
+    _graph = new StructureGraph(this, "Structure", _edit);
+    _gestures.emplace(*_graph, _edit, [this](ZOLUnicodeString& name) { return AskName(name); });
     _menu = new ZOLDlgContextualMenu(_graph, "StructureMenu");
     BuildMessages();
-    BuildButtons();
-
     AddAnalyseNotificationCB(_graph, _graph->GetChoiceNotification(),
                              ZOL_CALLBACK(&NavigatorWindow::ChoiceCB));
-    AddAnalyseNotificationCB(_graph, "ZOLNodeContextNotification", ZOL_CALLBACK(&NavigatorWindow::MenuCB));
+    AddAnalyseNotificationCB(_graph, "ZOLNodeContextNotification", ZOL_CALLBACK(&NavigatorWindow::ContextCB));
     AddAnalyseNotificationCB(this, GetWindCloseNotification(), ZOL_CALLBACK(&NavigatorWindow::LeaveCB));
-
-    ZOLGYRError error;
-    ZOLListValZOLDMInstance roots;
-    PartQuery::Roots(roots, error);
-    _graph->ShowRoots(roots);
-    Refresh();
-    Report(error);
+    ReadAgain();
 }
 
 ZOLString NavigatorWindow::GetResourceFilename(int level) const {
     return level == 0 ? "NavigatorWindow" : ZOLDlgWindow::GetResourceFilename(level - 1);
 }
 
-void NavigatorWindow::BuildSearch() {
-    auto* frame = new ZOLDlgFrame(this, "SearchFrame", 0x80000);
+ZOLUnicodeString NavigatorWindow::Text(const std::string& key,
+                                       const ZOLListValZOLUnicodeString& parameters) const {
+    ZOLUnicodeString text;
+    GetResourceValueFromKey(key.c_str(), text, parameters);
+    return text;
+}
+
+const std::vector<NavigatorWindow::Action>& NavigatorWindow::Actions() {
+    using This = NavigatorWindow;
+    static const std::vector<Action> actions = {
+        {"SaveItem", &This::SaveAll, &This::HasUnsaved},
+        {"DiscardItem", &This::DiscardAll, &This::HasChanges},
+        {"UnsavedItem", &This::ListUnsaved, &This::HasChanges},
+        {"LeaveItem", &This::Leave, nullptr},
+        {"FindNextItem", &This::FindNext, &This::HasSearch},
+        {"FindPreviousItem", &This::FindPrevious, &This::HasSearch},
+        {"OpenBranchItem", &This::OpenBranch, &This::HasChoice},
+        {"CloseBranchItem", &This::CloseBranch, &This::HasChoice},
+        {"RefreshItem", &This::ReadAgain, nullptr},
+        {"SavePictureItem", &This::SavePicture, nullptr},
+        {"ContentsItem", &This::ShowHelp, nullptr},
+    };
+    return actions;
+}
+
+const NavigatorWindow::Action* NavigatorWindow::FindAction(const std::string& name) {
+    for (const Action& action : Actions())
+        if (name == action.name)
+            return &action;
+    return nullptr;
+}
+
+void NavigatorWindow::BuildMenuBar() {
+    auto* bar = new ZOLDlgMenuBar(this, "MenuBar");
+    for (const NavigatorMenu& group : NavigatorMenu::Bar()) {
+        auto* menu = new ZOLDlgSubMenu(bar, group.name);
+        AddItems(menu, group.items);
+        AddAnalyseNotificationCB(menu, menu->GetVisibilityNotification(),
+                                 ZOL_CALLBACK(&NavigatorWindow::MenuOpensCB));
+    }
+}
+
+void NavigatorWindow::AddItems(ZOLDialog* menu, const std::vector<const char*>& names) {
+    for (const char* name : names) {
+        if (!*name) {
+            new ZOLDlgSeparatorItem(menu, "Separator");
+            continue;
+        }
+        auto* item = new ZOLDlgPushItem(menu, name);
+        AddAnalyseNotificationCB(item, item->GetMenuIActivateNotification(),
+                                 ZOL_CALLBACK(&NavigatorWindow::ItemCB));
+    }
+}
+
+bool NavigatorWindow::IsPossible(const std::string& item) const {
+    if (const LinkGestures::Gesture* gesture = LinkGestures::Find(item))
+        return ((*_gestures).*gesture->isPossible)();
+    if (const Action* action = FindAction(item))
+        return !action->isPossible || (this->*action->isPossible)();
+    const ModuleOperation* operation = ModuleOperation::Find(item);
+    return operation && operation->Takes(_graph->Chosen().size());
+}
+
+void NavigatorWindow::Grey(ZOLDialog* menu) {
+    for (ZOLDialog* item : menu->GetChildren())
+        if (dynamic_cast<ZOLDlgPushItem*>(item))
+            item->SetSensitivity(IsPossible(std::string(item->GetName().View())) ? ZOLActive : ZOLGreyed);
+}
+
+void NavigatorWindow::BuildToolBar() {
+    auto* frame = new ZOLDlgFrame(this, "ToolBar", 0x80000);
     frame->SetDefaultOrientation(1);
     new ZOLDlgLabel(frame, "SearchLabel");
     _search = new ZOLDlgEditor(frame, "SearchEd");
     _search->SetVisibleTextWidth(SearchWidth);
     AddAnalyseNotificationCB(_search, _search->GetEditModifyNotification(),
                              ZOL_CALLBACK(&NavigatorWindow::SearchCB));
-    auto* next = new ZOLDlgPushButton(frame, "SearchNext");
-    AddAnalyseNotificationCB(next, next->GetPushBActivateNotification(),
-                             ZOL_CALLBACK(&NavigatorWindow::SearchCB));
-    // Leaving the field for this button would look twice.
-    next->SetTakesFocus(0);
+    const auto add = [&](const char* name, const char* action) {
+        auto* button = new ZOLDlgPushButton(frame, name);
+        AddAnalyseNotificationCB(button, button->GetPushBActivateNotification(),
+                                 ZOL_CALLBACK(&NavigatorWindow::ButtonCB), const_cast<char*>(action));
+        return button;
+    };
+    // Leaving the field for one of these would look twice.
+    add("SearchNext", "FindNextItem")->SetTakesFocus(0);
+    add("SearchPrevious", "FindPreviousItem")->SetTakesFocus(0);
+    (new ZOLDlgFrame(frame, "Gap", 0x80000))->SetHorizontalAttachment(1);
+    _save = add("Save", "SaveItem");
+    _discard = add("Discard", "DiscardItem");
+    _unsaved = add("Unsaved", "UnsavedItem");
 }
 
 void NavigatorWindow::BuildMessages() {
     _messages = new ZOLDlgMultiList(this, "Messages");
-    const ZOLUnicodeString title = Text(*this, "Messages.Column");
-    _messages->SetColumnTitles(1, &title);
-    _messages->SetColumnTextWidth(0, MessageWidth);
+    const ZOLUnicodeString titles[] = {Text("Messages.Time"), Text("Messages.Column")};
+    _messages->SetColumnTitles(static_cast<int>(std::size(titles)), titles);
+    _messages->SetColumnTextWidth(0, TimeWidth);
+    _messages->SetColumnTextWidth(1, MessageWidth);
     _messages->SetVisibleLineCount(MessageLines);
     _messages->SetVerticalAttachment(0);
-}
-
-void NavigatorWindow::BuildButtons() {
-    auto* frame = new ZOLDlgFrame(this, "ButtonFrame", 0x80000);
-    frame->SetDefaultOrientation(1);
-    const auto add = [&](const char* name, ZOLNotificationMethod method) {
-        auto* button = new ZOLDlgPushButton(frame, name);
-        AddAnalyseNotificationCB(button, button->GetPushBActivateNotification(), method);
-        return button;
-    };
-    _save = add("Save", ZOL_CALLBACK(&NavigatorWindow::SaveCB));
-    _discard = add("Discard", ZOL_CALLBACK(&NavigatorWindow::DiscardCB));
-    _copy = add("Copy", ZOL_CALLBACK(&NavigatorWindow::CopyCB));
-    add("Leave", ZOL_CALLBACK(&NavigatorWindow::LeaveCB));
     _status = new ZOLDlgLabel(this, "Status");
 }
 
 void NavigatorWindow::SearchCB(ZOLCommand*, ZOLNotification*, void*) {
+    FindNext();
+}
+
+void NavigatorWindow::ChoiceCB(ZOLCommand*, ZOLNotification*, void*) {
+    Refresh();
+}
+
+void NavigatorWindow::LeaveCB(ZOLCommand*, ZOLNotification*, void*) {
+    Leave();
+}
+
+void NavigatorWindow::ContextCB(ZOLCommand*, ZOLNotification*, void*) {
+    for (const NavigatorMenu& group : NavigatorMenu::Operations()) {
+        auto* menu = new ZOLDlgSubMenu(_menu, group.name);
+        AddItems(menu, group.items);
+        Grey(menu);
+    }
+    new ZOLDlgSeparatorItem(_menu, "Separator");
+    AddItems(_menu, NavigatorMenu::OfNode());
+    Grey(_menu);
+}
+
+void NavigatorWindow::MenuOpensCB(ZOLCommand* menu, ZOLNotification*, void*) {
+    Grey(static_cast<ZOLDialog*>(menu));
+}
+
+void NavigatorWindow::ButtonCB(ZOLCommand*, ZOLNotification*, void* action) {
+    (this->*FindAction(static_cast<const char*>(action))->run)();
+}
+
+void NavigatorWindow::ItemCB(ZOLCommand* item, ZOLNotification*, void*) {
+    const std::string name(static_cast<ZOLDialog*>(item)->GetName().View());
+    if (const LinkGestures::Gesture* gesture = LinkGestures::Find(name))
+        RunGesture(*gesture);
+    else if (const Action* action = FindAction(name))
+        (this->*action->run)();
+    else if (const ModuleOperation* operation = ModuleOperation::Find(name))
+        RunOperation(*operation);
+}
+
+void NavigatorWindow::RunGesture(const LinkGestures::Gesture& gesture) {
+    ZOLGYRError error;
+    const int count = ((*_gestures).*gesture.run)(error);
+    if (count > 0)
+        Note(Text(gesture.message, {ZOLUnicodeString::FromNumber(count)}));
+    Report(error);
+    Refresh();
+}
+
+void NavigatorWindow::RunOperation(const ModuleOperation& operation) {
+    ZOLIQRDCfgInterfaces* module = _session.Module();
+    if (!module)
+        return;
+    const ZOLUnicodeString message = operation.Run(*module, this, _graph->Chosen());
+    if (!message.IsEmpty())
+        Note(message);
+    _graph->Synchronise();
+}
+
+void NavigatorWindow::Search(StructureGraph::Direction direction) {
     const ZOLUnicodeString text = _search->GetText();
-    if (text.IsEmpty() || _graph->ChooseNext(text))
+    if (text.IsEmpty() || _graph->ChooseNext(text, direction))
         return;
     ZOLGYRError error;
     error.Set(NotFound, -1, {text});
@@ -128,122 +255,93 @@ void NavigatorWindow::SearchCB(ZOLCommand*, ZOLNotification*, void*) {
     Note(message);
 }
 
-void NavigatorWindow::ChoiceCB(ZOLCommand*, ZOLNotification*, void*) {
-    Refresh();
+void NavigatorWindow::OpenBranch() {
+    if (!_graph->OpenChosen(std::numeric_limits<int>::max()))
+        Note(Text("OpenedInPart.Msg"));
 }
 
-void NavigatorWindow::MenuCB(ZOLCommand*, ZOLNotification*, void*) {
-    FillMenu();
-}
-
-void NavigatorWindow::FillMenu() {
-    for (const MenuGroup& group : MenuGroups()) {
-        auto* menu = new ZOLDlgSubMenu(_menu, group.name);
-        for (const char* name : group.operations)
-            AddOperation(menu, *ModuleOperation::Find(name));
-    }
-    new ZOLDlgSeparatorItem(_menu, "EditSeparator");
-    auto* copy = new ZOLDlgPushItem(_menu, "CopyItem");
-    AddAnalyseNotificationCB(copy, copy->GetMenuIActivateNotification(),
-                             ZOL_CALLBACK(&NavigatorWindow::CopyCB));
-}
-
-void NavigatorWindow::AddOperation(ZOLDialog* menu, const ModuleOperation& operation) {
-    auto* item = new ZOLDlgPushItem(menu, operation.name);
-    const bool fits = !operation.takesOnePart || _graph->Chosen().size() == 1;
-    item->SetSensitivity(fits ? ZOLActive : ZOLGreyed);
-    AddAnalyseNotificationCB(item, item->GetMenuIActivateNotification(),
-                             ZOL_CALLBACK(&NavigatorWindow::OperationCB),
-                             const_cast<ModuleOperation*>(&operation));
-}
-
-void NavigatorWindow::OperationCB(ZOLCommand*, ZOLNotification*, void* operation) {
-    ZOLIQRDCfgInterfaces* module = _session.Module();
-    if (!module)
-        return;
-    const ZOLUnicodeString message =
-        static_cast<const ModuleOperation*>(operation)->Run(*module, this, _graph->Chosen());
-    if (!message.IsEmpty())
-        Note(message);
-    _graph->RefreshNodes();
-    Refresh();
-}
-
-void NavigatorWindow::CopyCB(ZOLCommand*, ZOLNotification*, void*) {
-    ZOLListValZOLDMInstance parts;
-    for (const ZOLDMInstance& part : _graph->Chosen())
-        parts.Append(part);
-    ZOLDMClipboard::SetObjects(parts);
-    Note(Text(*this, "Copied.Msg", {ZOLUnicodeString::FromNumber(parts.Size())}));
-}
-
-bool NavigatorWindow::Save() {
+void NavigatorWindow::ReadAgain() {
     ZOLGYRError error;
-    ZOLQRDCfgManager* manager = ZOLQRDCfgManager::CurrentCfgManager(error);
+    ZOLListValZOLDMInstance roots;
+    PartQuery::Roots(roots, error);
     if (error.GetCode() == 0)
-        manager->Save(error);
-    const bool saved = error.GetCode() == 0;
+        _graph->ShowRoots(roots);
     Report(error);
-    Refresh();
-    return saved;
 }
 
-void NavigatorWindow::SaveCB(ZOLCommand*, ZOLNotification*, void*) {
-    if (Save())
-        Note(Text(*this, "Saved.Msg"));
-}
-
-void NavigatorWindow::DiscardCB(ZOLCommand*, ZOLNotification*, void*) {
-    ZOLDlgNotify question(this, "ConfirmDiscard", QuestionStyle);
-    ZOLUnicodeString text = Text(*this, "ConfirmDiscard.Msg");
-    for (const UnsavedChange& change : DatabaseSession::UnsavedChanges())
-        text += ZOLUnicodeString("\n") + change.what + " " + change.object;
-    question.SetOKTitle(Text(*this, "ConfirmDiscard.Yes"));
-    question.SetCANCELTitle(Text(*this, "ConfirmDiscard.No"));
-    if (question.DisplayBlocked(text, Text(*this, "ConfirmDiscard.Title")) != 1)
+void NavigatorWindow::SavePicture() {
+    ZOLUnicodeString path;
+    auto* dialog = new PictureDialog(this);
+    const bool isNamed = dialog->Ask(path);
+    dialog->RequestDelayedDestruction();
+    std::error_code none;
+    if (!isNamed || (std::filesystem::exists(path.Bytes(), none) &&
+                     _work.Ask("ConfirmOverwrite", Text("ConfirmOverwrite.Msg", {path})) != FirstButton))
         return;
     ZOLGYRError error;
-    DatabaseSession::DiscardUnsaved(error);
+    if (GraphExport::Save(*_graph->GetGraph(), path, GraphExport::FormatOf(path), error))
+        Note(Text("PictureSaved.Msg", {path}));
     Report(error);
-    _graph->RefreshNodes();
+}
+
+void NavigatorWindow::ShowHelp() {
+    try {
+        ZOLUserDriver::Key(this, ZOLUserKey::F1);
+    } catch (const ZOLUserDriver::Refused&) {
+        Note(Text("NoHelp.Msg"));
+    }
+}
+
+bool NavigatorWindow::AskName(ZOLUnicodeString& name) {
+    auto* dialog = new RenameDialog(this, name);
+    const bool isGiven = dialog->Ask(name);
+    dialog->RequestDelayedDestruction();
+    return isGiven;
+}
+
+void NavigatorWindow::SaveAll() {
+    _work.Save();
     Refresh();
 }
 
-void NavigatorWindow::LeaveCB(ZOLCommand*, ZOLNotification*, void*) {
-    Leave();
+void NavigatorWindow::DiscardAll() {
+    if (_work.Discard())
+        _graph->Synchronise();
+}
+
+void NavigatorWindow::ListUnsaved() {
+    _work.List();
+    _graph->Synchronise();
 }
 
 void NavigatorWindow::Leave() {
-    if (!DatabaseSession::UnsavedChanges().empty()) {
-        ZOLDlgNotify question(this, "ConfirmLeave", QuestionStyle);
-        question.SetOKTitle(Text(*this, "ConfirmLeave.Save"));
-        question.SetCANCELTitle(Text(*this, "ConfirmLeave.Discard"));
-        question.SetHELPTitle(Text(*this, "ConfirmLeave.Stay"));
-        const int answer =
-            question.DisplayBlocked(Text(*this, "ConfirmLeave.Msg"), Text(*this, "ConfirmLeave.Title"));
-        if (answer != AnswerSave && answer != AnswerDiscard)
-            return;
-        if (answer == AnswerSave && !Save())
-            return;
-    }
+    if (!_work.MayLeave())
+        return;
+    WindowMemory::Keep(GetShownSize());
     RequestDelayedDestruction();
 }
 
 void NavigatorWindow::Refresh() {
-    const std::size_t chosen = _graph->Chosen().size();
-    const std::size_t unsaved = DatabaseSession::UnsavedChanges().size();
-    const int hasUnsaved = unsaved == 0 ? ZOLGreyed : ZOLActive;
-    _save->SetSensitivity(hasUnsaved);
-    _discard->SetSensitivity(hasUnsaved);
-    _copy->SetSensitivity(chosen == 0 ? ZOLGreyed : ZOLActive);
-    _status->SetTitle(Text(*this, "Status.Msg",
-                           {GetSecurityManager()->GetCurrentPerson()->GetName(),
-                            ZOLUnicodeString::FromNumber(static_cast<int>(chosen)),
-                            ZOLUnicodeString::FromNumber(static_cast<int>(unsaved))}));
+    const int unsaved = _work.CountUnsaved();
+    const int edits = _work.CountEdits();
+    const auto activate = [](ZOLDlgPushButton* button, bool on) {
+        button->SetSensitivity(on ? ZOLActive : ZOLGreyed);
+    };
+    activate(_save, unsaved > 0);
+    activate(_discard, unsaved > 0 || edits > 0);
+    activate(_unsaved, unsaved > 0 || edits > 0);
+    _status->SetTitle(Text(
+        "Status.Msg", {WhoWorks(), ZOLUnicodeString::FromNumber(static_cast<int>(_graph->Chosen().size())),
+                       ZOLUnicodeString::FromNumber(unsaved), ZOLUnicodeString::FromNumber(edits)}));
 }
 
 void NavigatorWindow::Note(const ZOLUnicodeString& message) {
-    _messages->SetColumnItem(0, message, -1, NewLine);
+    if (_messages->GetLineCount() >= MostMessages)
+        _messages->ClearLine(0);
+    ZOLUnicodeString line = message;
+    line.Replace("\n", " ");
+    _messages->SetColumnItem(0, TimeOfDay(), -1, NewLine);
+    _messages->SetColumnItem(1, line, _messages->GetLineCount() - 1, NewLine);
     _messages->SetFirstLine(_messages->GetLineCount() - 1);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "navigator/StructureGraph.h"
+#include "navigator/LinkGestures.h"
+#include "navigator/UnsavedWork.h"
 #include "session/HostSession.h"
 #include "session/ModuleOperation.h"
 #include "toolkit/ZOLDlgContextualMenu.h"
@@ -9,6 +10,8 @@
 #include "toolkit/ZOLDlgMultiList.h"
 #include "toolkit/ZOLDlgPushButton.h"
 #include "toolkit/ZOLDlgWindow.h"
+
+#include <optional>
 
 namespace trellis {
 
@@ -20,41 +23,73 @@ public:
     explicit NavigatorWindow(HostSession& session);
 
     ZOLString GetResourceFilename(int level) const override;
-    // Closes the window; with unsaved changes it asks first.
+    // Closes the window; with unsaved changes or edits of links it asks first.
     void Leave();
 
 private:
-    void BuildSearch();
+    // What a menu offers beside the gestures on links and the module's operations.
+    struct Action {
+        const char* name;
+        void (NavigatorWindow::*run)();
+        bool (NavigatorWindow::*isPossible)() const;
+    };
+    static const std::vector<Action>& Actions();
+    static const Action* FindAction(const std::string& name);
+
+    void BuildMenuBar();
+    void BuildToolBar();
     void BuildMessages();
-    void BuildButtons();
+    void AddItems(ZOLDialog* menu, const std::vector<const char*>& names);
+    // Whether what stands behind an item can be done now.
+    bool IsPossible(const std::string& item) const;
+    void Grey(ZOLDialog* menu);
 
     void SearchCB(ZOLCommand*, ZOLNotification*, void*);
     void ChoiceCB(ZOLCommand*, ZOLNotification*, void*);
-    void MenuCB(ZOLCommand*, ZOLNotification*, void*);
-    void OperationCB(ZOLCommand*, ZOLNotification*, void* operation);
-    void CopyCB(ZOLCommand*, ZOLNotification*, void*);
-    void SaveCB(ZOLCommand*, ZOLNotification*, void*);
-    void DiscardCB(ZOLCommand*, ZOLNotification*, void*);
+    void ContextCB(ZOLCommand*, ZOLNotification*, void*);
+    void MenuOpensCB(ZOLCommand* menu, ZOLNotification*, void*);
+    void ItemCB(ZOLCommand* item, ZOLNotification*, void*);
+    void ButtonCB(ZOLCommand*, ZOLNotification*, void* action);
     void LeaveCB(ZOLCommand*, ZOLNotification*, void*);
 
-    void FillMenu();
-    void AddOperation(ZOLDialog* menu, const ModuleOperation& operation);
-    // Everything that may have changed by what somebody did: texts of the tree, buttons, status line.
+    void RunGesture(const LinkGestures::Gesture& gesture);
+    void RunOperation(const ModuleOperation& operation);
+    void SaveAll();
+    void DiscardAll();
+    void ListUnsaved();
+    void FindNext() { Search(StructureGraph::Direction::Forth); }
+    void FindPrevious() { Search(StructureGraph::Direction::Back); }
+    void OpenBranch();
+    void CloseBranch() { _graph->CloseChosen(); }
+    void ReadAgain();
+    void SavePicture();
+    void ShowHelp();
+    bool HasUnsaved() const { return _work.CountUnsaved() > 0; }
+    bool HasChanges() const { return !_work.IsEmpty(); }
+    bool HasChoice() const { return _gestures->HasChoice(); }
+    bool HasSearch() const { return !_search->GetText().IsEmpty(); }
+
+    void Search(StructureGraph::Direction direction);
+    bool AskName(ZOLUnicodeString& name);
+    // Everything that may have changed by what somebody did: buttons, status line.
     void Refresh();
     void Note(const ZOLUnicodeString& message);
     // Shows the error, if any, and keeps it in the list of messages.
     void Report(ZOLGYRError& error);
-    bool Save();
+    ZOLUnicodeString Text(const std::string& key, const ZOLListValZOLUnicodeString& parameters = {}) const;
 
     HostSession& _session;
+    StructureEdit _edit;
+    UnsavedWork _work;
     StructureGraph* _graph;
+    std::optional<LinkGestures> _gestures; // on the graph
     ZOLDlgContextualMenu* _menu;
     ZOLDlgEditor* _search;
     ZOLDlgMultiList* _messages;
     ZOLDlgLabel* _status;
     ZOLDlgPushButton* _save;
     ZOLDlgPushButton* _discard;
-    ZOLDlgPushButton* _copy;
+    ZOLDlgPushButton* _unsaved;
 };
 
 } // namespace trellis

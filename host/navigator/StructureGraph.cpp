@@ -1,17 +1,28 @@
 #include "navigator/StructureGraph.h"
 
+#include "model/LinksUnderEdit.h"
+#include "service/ConfigurablePartQuery.h"
+#include "service/EffectivityQuery.h"
+#include "session/StructureTree.h"
 #include "toolkit/ZOLGraphArc.h"
+#include "values/ZOLGYRError.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 namespace trellis {
 
 namespace {
 
-constexpr int Width = 700;
-constexpr int Height = 480;
+// The least that is of use; the window gives it all the room it has.
+constexpr int Width = 600;
+constexpr int Height = 240;
 constexpr int WidthMargin = 4;
 constexpr int DepthMargin = 10;
+constexpr std::size_t MostOpened = 2000;
+
+using Branch = NavigatorNode::Branch;
+using Nodes = StructureGraph::Nodes;
 
 NavigatorNode* NodeOf(ZOLNotification* notification) {
     auto* graphNotification = dynamic_cast<ZOLGraphNotification*>(notification);
@@ -23,10 +34,22 @@ ZOLUnicodeString Folded(ZOLUnicodeString text) {
     return text;
 }
 
+Nodes ChildrenOf(const NavigatorNode* node) {
+    Nodes children;
+    for (const ZOLGraphArc* arc : node->ChildArcs())
+        children.push_back(static_cast<NavigatorNode*>(arc->GetChild()));
+    return children;
+}
+
+bool Holds(const Nodes& nodes, const NavigatorNode* node) {
+    return std::find(nodes.begin(), nodes.end(), node) != nodes.end();
+}
+
 } // namespace
 
-StructureGraph::StructureGraph(ZOLDialog* father, const ZOLString& name)
+StructureGraph::StructureGraph(ZOLDialog* father, const ZOLString& name, const StructureEdit& edit)
     : ZOLGraphViewer(father, name, 0x80000, Width, Height, 0),
+      _edit(edit),
       _choiceNotification("NavigatorChoiceNotification") {
     ZOLGraph* graph = CreateGraph();
     graph->setHorizontalIndented();
@@ -44,31 +67,122 @@ StructureGraph::~StructureGraph() {
         delete *node;
 }
 
-void StructureGraph::Clear() {
-    _chosen.clear();
+Nodes StructureGraph::Roots() const {
+    Nodes roots;
     for (NavigatorNode* node : _nodes)
-        node->RequestDelayedDestruction();
-    _nodes.clear();
+        if (!node->Link())
+            roots.push_back(node);
+    return roots;
 }
 
-NavigatorNode* StructureGraph::AddNode(const ZOLDMInstance& part) {
-    auto* node = new NavigatorNode(part);
+void StructureGraph::Adopt(NavigatorNode* node) {
     _nodes.push_back(node);
-    return node;
+    GetGraph()->addTree(node);
 }
 
 void StructureGraph::ShowRoots(const ZOLListValZOLDMInstance& roots) {
-    Clear();
+    Nodes gone;
+    std::unordered_set<ZOLDMInstance> present;
+    for (NavigatorNode* node : Roots())
+        if (roots.Locate(node->Part()) > 0)
+            present.insert(node->Part());
+        else
+            gone.push_back(node);
+    Drop(gone);
+    _dropped.clear();
     for (const ZOLDMInstance& root : roots)
-        GetGraph()->addTree(AddNode(root));
+        if (!present.contains(root))
+            Adopt(new NavigatorNode(root));
+    Synchronise();
+}
+
+// Takes nodes and all below them out.
+void StructureGraph::Drop(const Nodes& tops) {
+    Nodes waiting = tops;
+    std::unordered_set<const NavigatorNode*> gone;
+    while (!waiting.empty()) {
+        NavigatorNode* node = waiting.back();
+        waiting.pop_back();
+        const Nodes children = ChildrenOf(node);
+        waiting.insert(waiting.end(), children.begin(), children.end());
+        gone.insert(node);
+        node->RequestDelayedDestruction();
+    }
+    const auto isGone = [&gone](const NavigatorNode* node) { return gone.contains(node); };
+    std::erase_if(_nodes, isGone);
+    std::erase_if(_chosen, isGone);
+    _dropped.merge(gone);
+}
+
+void StructureGraph::Synchronise() {
+    Nodes read;
+    for (NavigatorNode* node : _nodes)
+        if (node->WasRead())
+            read.push_back(node);
+    ReadBranches(read);
+    Refresh(_nodes);
     UpdateLayout();
     SendNotification(GetFather(), &_choiceNotification);
 }
 
-void StructureGraph::RefreshNodes() {
-    for (NavigatorNode* node : _nodes)
-        node->Refresh();
-    UpdateLayout();
+void StructureGraph::ReadBranches(const Nodes& nodes) {
+    std::vector<ZOLDMInstance> parts;
+    for (const NavigatorNode* node : nodes)
+        parts.push_back(node->Part());
+    const std::vector<LinksUnderEdit::Links> lists = LinksUnderEdit::Below(parts);
+    for (std::size_t i = 0; i < nodes.size(); ++i)
+        if (!_dropped.contains(nodes[i]))
+            SynchroniseBranch(nodes[i], lists[i]);
+    _dropped.clear(); // later nodes may stand at the same addresses
+}
+
+void StructureGraph::SynchroniseBranch(NavigatorNode* node, const std::vector<SdaiAppInstance*>& links) {
+    std::unordered_map<const SdaiAppInstance*, NavigatorNode*> present;
+    std::vector<SdaiAppInstance*> before;
+    for (NavigatorNode* child : ChildrenOf(node)) {
+        present[child->Link()] = child;
+        before.push_back(child->Link());
+    }
+    if (before == links)
+        return;
+    Nodes gone;
+    for (SdaiAppInstance* link : before)
+        if (std::find(links.begin(), links.end(), link) == links.end())
+            gone.push_back(present[link]);
+    Drop(gone);
+    // The order of the arcs is that of the children, and a new arc comes last.
+    for (ZOLGraphArc* arc : std::list<ZOLGraphArc*>(node->ChildArcs()))
+        delete arc;
+    for (SdaiAppInstance* link : links) {
+        const auto known = present.find(link);
+        NavigatorNode* child = known == present.end() ? new NavigatorNode(*link) : known->second;
+        new ZOLGraphArc(node, child);
+        if (known == present.end())
+            Adopt(child);
+        node->GetBranch() == Branch::Open ? child->show() : child->hide();
+    }
+}
+
+// Texts, marks, and whether there is a branch to open.
+void StructureGraph::Refresh(const Nodes& nodes) {
+    std::vector<ZOLDMInstance> parts;
+    std::vector<ZOLDMInstance> links;
+    for (const NavigatorNode* node : nodes) {
+        parts.push_back(node->Part());
+        links.push_back(node->Link() ? node->Link()->GetInstance() : ZOLDMInstance());
+    }
+    ZOLGYRError error; // the outline is readable without
+    const auto effectivities = EffectivityQuery::OfLinks(links, error);
+    const std::vector<bool> haveLinks = LinksUnderEdit::HaveLinks(parts);
+    const std::vector<bool> areConfigurable = ConfigurablePartQuery::Among(parts, error);
+    for (std::size_t i = 0; i < nodes.size(); ++i) {
+        nodes[i]->Refresh(effectivities[i],
+                          areConfigurable[i] ? StructureTree::State(parts[i]) : ZOLUnicodeString(), _edit);
+        if (nodes[i]->WasRead() ? nodes[i]->nChild() == 0 : !haveLinks[i])
+            nodes[i]->SetBranch(Branch::Leaf);
+        else if (nodes[i]->GetBranch() == Branch::Leaf)
+            nodes[i]->SetBranch(Branch::NeverOpened);
+    }
 }
 
 std::vector<ZOLDMInstance> StructureGraph::Chosen() const {
@@ -79,12 +193,26 @@ std::vector<ZOLDMInstance> StructureGraph::Chosen() const {
     return parts;
 }
 
-void StructureGraph::Choose(NavigatorNode* node) {
+void StructureGraph::Choose(const Nodes& nodes) {
     for (NavigatorNode* chosen : _chosen)
         chosen->setHighlight(0);
-    _chosen = {node};
-    node->setHighlight(1);
+    _chosen = nodes;
+    for (NavigatorNode* chosen : _chosen)
+        chosen->setHighlight(1);
+    update();
     SendNotification(GetFather(), &_choiceNotification);
+}
+
+void StructureGraph::ChooseLinks(const std::vector<SdaiAppInstance*>& links) {
+    Nodes nodes;
+    for (SdaiAppInstance* link : links)
+        for (NavigatorNode* node : _nodes)
+            if (node->Link() == link && nodes.size() < links.size())
+                nodes.push_back(node);
+    if (nodes.empty())
+        return;
+    Choose(nodes);
+    reveal(nodes.back());
 }
 
 void StructureGraph::SelectCB(ZOLCommand*, ZOLNotification* notification, void*) {
@@ -93,8 +221,8 @@ void StructureGraph::SelectCB(ZOLCommand*, ZOLNotification* notification, void*)
         return;
     const bool wasChosen = _chosen.size() == 1 && _chosen.front() == node;
     if (!wasChosen)
-        Choose(node);
-    if (wasChosen || node->GetBranch() != NavigatorNode::Branch::Open)
+        Choose({node});
+    if (wasChosen || node->GetBranch() != Branch::Open)
         Toggle(node);
 }
 
@@ -102,92 +230,110 @@ void StructureGraph::ExtendCB(ZOLCommand*, ZOLNotification* notification, void*)
     NavigatorNode* node = NodeOf(notification);
     if (!node)
         return;
-    const auto chosen = std::find(_chosen.begin(), _chosen.end(), node);
-    node->setHighlight(chosen == _chosen.end() ? 1 : 0);
-    if (chosen == _chosen.end())
-        _chosen.push_back(node);
-    else
-        _chosen.erase(chosen);
-    update();
-    SendNotification(GetFather(), &_choiceNotification);
+    Nodes chosen = _chosen;
+    if (std::erase(chosen, node) == 0)
+        chosen.push_back(node);
+    Choose(chosen);
 }
 
 // A context gesture on a part that is not chosen means that part; the menu itself is built by the window.
 void StructureGraph::ContextCB(ZOLCommand*, ZOLNotification* notification, void*) {
     NavigatorNode* node = NodeOf(notification);
-    if (node && std::find(_chosen.begin(), _chosen.end(), node) == _chosen.end())
-        Choose(node);
+    if (node && !Holds(_chosen, node))
+        Choose({node});
     SendNotification(GetFather(), notification);
 }
 
 void StructureGraph::Toggle(NavigatorNode* node) {
-    switch (node->GetBranch()) {
-    case NavigatorNode::Branch::Open:
-        node->SetBranch(NavigatorNode::Branch::Closed);
-        SetBranchShown(node, false);
-        break;
-    case NavigatorNode::Branch::Leaf:
-        break;
-    default:
-        Open(node);
-    }
+    if (node->GetBranch() == Branch::Open)
+        Close(node);
+    else
+        Open({node});
     UpdateLayout();
 }
 
-void StructureGraph::Open(NavigatorNode* node) {
-    if (node->GetBranch() == NavigatorNode::Branch::NeverOpened)
-        ReadBranch(node);
-    else
-        SetBranchShown(node, true);
-    node->SetBranch(node->nChild() == 0 ? NavigatorNode::Branch::Leaf : NavigatorNode::Branch::Open);
+void StructureGraph::Close(NavigatorNode* node) {
+    if (node->GetBranch() != Branch::Open)
+        return;
+    node->SetBranch(Branch::Closed);
+    for (NavigatorNode* child : ChildrenOf(node))
+        child->hide();
 }
 
-void StructureGraph::ReadBranch(NavigatorNode* node) {
-    ZOLListValZOLDMInstance links;
-    node->Part().GetChildren(0, "ZOLASS", links, 1);
-    for (const ZOLDMInstance& link : links) {
-        NavigatorNode* child = AddNode(link.GetChildPart(1));
-        new ZOLGraphArc(node, child);
-        GetGraph()->addTree(child);
+void StructureGraph::Open(const Nodes& nodes) {
+    Nodes unread;
+    for (NavigatorNode* node : nodes) {
+        if (node->GetBranch() == Branch::NeverOpened)
+            unread.push_back(node);
+        if (node->GetBranch() != Branch::Leaf)
+            node->SetBranch(Branch::Open);
+        for (NavigatorNode* child : ChildrenOf(node))
+            child->show();
     }
+    ReadBranches(unread);
+    Nodes children;
+    for (const NavigatorNode* node : unread) {
+        const Nodes below = ChildrenOf(node);
+        children.insert(children.end(), below.begin(), below.end());
+    }
+    Refresh(children);
+    for (NavigatorNode* node : unread)
+        if (node->nChild() == 0)
+            node->SetBranch(Branch::Leaf);
 }
 
-void StructureGraph::SetBranchShown(NavigatorNode* node, bool shown) {
-    for (const ZOLGraphArc* arc : node->ChildArcs())
-        shown ? arc->GetChild()->show() : arc->GetChild()->hide();
+bool StructureGraph::OpenChosen(int levels) {
+    Nodes level = _chosen;
+    std::size_t count = 0;
+    for (; levels > 0 && !level.empty() && count < MostOpened; --levels) {
+        Open(level);
+        Nodes below;
+        for (const NavigatorNode* node : level) {
+            const Nodes children = ChildrenOf(node);
+            below.insert(below.end(), children.begin(), children.end());
+        }
+        count += below.size();
+        level = below;
+    }
+    UpdateLayout();
+    return level.empty();
+}
+
+void StructureGraph::CloseChosen() {
+    for (NavigatorNode* node : _chosen)
+        Close(node);
+    UpdateLayout();
 }
 
 // All nodes that are on the screen, row by row.
-std::vector<NavigatorNode*> StructureGraph::Outline() {
-    std::vector<NavigatorNode*> rows;
-    std::vector<ZOLGraphNode*> waiting;
-    for (auto node = _nodes.rbegin(); node != _nodes.rend(); ++node)
-        if ((*node)->nParent() == 0)
-            waiting.push_back(*node);
+Nodes StructureGraph::Outline() const {
+    Nodes rows;
+    Nodes waiting = Roots();
+    std::reverse(waiting.begin(), waiting.end());
     while (!waiting.empty()) {
-        auto* node = static_cast<NavigatorNode*>(waiting.back());
+        NavigatorNode* node = waiting.back();
         waiting.pop_back();
         rows.push_back(node);
-        if (node->GetBranch() != NavigatorNode::Branch::Open)
+        if (node->GetBranch() != Branch::Open)
             continue;
-        const auto& arcs = node->ChildArcs();
-        for (auto arc = arcs.rbegin(); arc != arcs.rend(); ++arc)
-            waiting.push_back((*arc)->GetChild());
+        const Nodes children = ChildrenOf(node);
+        waiting.insert(waiting.end(), children.rbegin(), children.rend());
     }
     return rows;
 }
 
-bool StructureGraph::ChooseNext(const ZOLUnicodeString& text) {
+bool StructureGraph::ChooseNext(const ZOLUnicodeString& text, Direction direction) {
     const ZOLUnicodeString wanted = Folded(text);
-    std::vector<NavigatorNode*> rows = Outline();
+    Nodes rows = Outline();
+    if (direction == Direction::Back)
+        std::reverse(rows.begin(), rows.end());
     const auto chosen = _chosen.empty() ? rows.end() : std::find(rows.begin(), rows.end(), _chosen.back());
     if (chosen != rows.end())
         std::rotate(rows.begin(), chosen + 1, rows.end());
     for (NavigatorNode* node : rows)
         if (Folded(node->getText()).SearchSubString(wanted, 0) >= 0) {
-            Choose(node);
-            centre(node);
-            update();
+            Choose({node});
+            reveal(node);
             return true;
         }
     return false;

@@ -11,6 +11,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <tuple>
 
 namespace fs = std::filesystem;
 
@@ -64,6 +65,10 @@ bool HostSession::LoadSettings() {
         problem.Set(OptionNotUnderstood, 0, {option});
         problems.push_back(problem);
     }
+    for (const auto& [option, key, value] : {std::tuple("--font-size", "FONT.SIZE", _options.fontSize),
+                                             std::tuple("--font", "FONT.FAMILY", _options.fontFamily)})
+        if (!value.empty())
+            settings.Declare(key, value, SettingOrigin::Option, option, problems);
     CheckTexts(problems);
     MessageOutput::Print(problems);
     return !MessageOutput::AnyError(problems);

@@ -16,6 +16,9 @@ struct HostOptions {
     std::string database;              // file of the database; empty: that of the user
     std::vector<std::string> settings; // KEY=VALUE
     bool json = false;
+    std::string display;    // of the windows; empty: that of the environment
+    std::string fontSize;   // in points; empty: as the settings say
+    std::string fontFamily; // empty: as the settings say
 };
 
 // HostSession: what a job stands on: settings, one open database, the loaded module. Each is made ready when a job

@@ -4,6 +4,8 @@
 #include "toolkit/CallbackScope.h"
 #include "values/ZOLGYRError.h"
 
+#include <limits>
+
 namespace trellis {
 
 namespace {
@@ -14,16 +16,19 @@ using Parts = ModuleOperation::Parts;
 constexpr int DateMilestone = 1;
 constexpr int RangeMilestone = 2;
 
-ModuleOperation OnSelection(const char* name,
+constexpr std::size_t Any = std::numeric_limits<std::size_t>::max();
+
+ModuleOperation OnSelection(const char* name, std::size_t fewest,
                             void (Interface::*operation)(ZOLDialog*, int, ZOLDMInstance*, ZOLGYRError&)) {
-    return {name, false, [operation](Interface& module, ZOLDialog* parent, Parts& parts, ZOLGYRError& error) {
+    return {name, fewest, Any,
+            [operation](Interface& module, ZOLDialog* parent, Parts& parts, ZOLGYRError& error) {
                 (module.*operation)(parent, static_cast<int>(parts.size()), parts.data(), error);
             }};
 }
 
 ModuleOperation OnOnePart(const char* name,
                           void (Interface::*operation)(ZOLDialog*, ZOLDMInstance&, ZOLGYRError&)) {
-    return {name, true, [operation](Interface& module, ZOLDialog* parent, Parts& parts, ZOLGYRError& error) {
+    return {name, 1, 1, [operation](Interface& module, ZOLDialog* parent, Parts& parts, ZOLGYRError& error) {
                 (module.*operation)(parent, parts.front(), error);
             }};
 }
@@ -31,7 +36,7 @@ ModuleOperation OnOnePart(const char* name,
 ModuleOperation OnMilestones(const char* name, int type,
                              void (Interface::*operation)(ZOLDialog*, int, ZOLDMInstance*, ZOLGYRError&,
                                                           int)) {
-    return {name, false,
+    return {name, 1, Any,
             [operation, type](Interface& module, ZOLDialog* parent, Parts& parts, ZOLGYRError& error) {
                 (module.*operation)(parent, static_cast<int>(parts.size()), parts.data(), error, type);
             }};
@@ -41,32 +46,32 @@ ModuleOperation OnMilestones(const char* name, int type,
 
 const std::vector<ModuleOperation>& ModuleOperation::All() {
     static const std::vector<ModuleOperation> operations = {
-        {"Usage", true,
+        {"Usage", 1, 1,
          [](Interface& module, ZOLDialog* parent, Parts& parts, ZOLGYRError& error) {
              ZOLListValZOLUnicodeString everywhere;
              module.Usage(parent, everywhere, parts.front(), error);
          }},
         OnOnePart("SetConfigurable", &Interface::SetConfigurable),
-        OnSelection("UnSetConfigurable", &Interface::UnSetConfigurable),
-        {"Validate", false,
+        OnSelection("UnSetConfigurable", 1, &Interface::UnSetConfigurable),
+        {"Validate", 0, Any,
          [](Interface& module, ZOLDialog* parent, Parts&, ZOLGYRError& error) {
              module.Validate(parent, error);
          }},
         OnOnePart("PartCfgAnalysis", &Interface::PartCfgAnalysis),
-        OnSelection("AvailableTypes", &Interface::AvailableTypes),
+        OnSelection("AvailableTypes", 1, &Interface::AvailableTypes),
         OnOnePart("SetDefaultCH", &Interface::SetDefaultCH),
-        OnSelection("SetConfigHandler", &Interface::SetConfigHandler),
-        OnSelection("PlannedEffectivity", &Interface::PlannedEffectivity),
-        OnSelection("OpenCategoryManager", &Interface::OpenCategoryManager),
-        OnSelection("OpenRuleManager", &Interface::OpenRuleManager),
-        OnSelection("DeleteDictionary", &Interface::DeleteDictionary),
-        OnSelection("ImportDictionary", &Interface::ImportDictionary),
+        OnSelection("SetConfigHandler", 0, &Interface::SetConfigHandler),
+        OnSelection("PlannedEffectivity", 0, &Interface::PlannedEffectivity),
+        OnSelection("OpenCategoryManager", 0, &Interface::OpenCategoryManager),
+        OnSelection("OpenRuleManager", 0, &Interface::OpenRuleManager),
+        OnSelection("DeleteDictionary", 1, &Interface::DeleteDictionary),
+        OnSelection("ImportDictionary", 1, &Interface::ImportDictionary),
         OnMilestones("OpenMilestoneManagerDate", DateMilestone, &Interface::OpenMilestoneManager),
         OnMilestones("OpenMilestoneManagerRange", RangeMilestone, &Interface::OpenMilestoneManager),
         OnMilestones("DeleteMilestonesDate", DateMilestone, &Interface::DeleteMilestones),
         OnMilestones("DeleteMilestonesRange", RangeMilestone, &Interface::DeleteMilestones),
-        OnSelection("ModifyStatus", &Interface::ModifyStatus),
-        OnSelection("CleanDatabase", &Interface::CleanDatabase),
+        OnSelection("ModifyStatus", 0, &Interface::ModifyStatus),
+        OnSelection("CleanDatabase", 1, &Interface::CleanDatabase),
     };
     return operations;
 }

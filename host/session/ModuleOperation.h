@@ -14,8 +14,11 @@ struct ModuleOperation {
     using Parts = std::vector<ZOLDMInstance>;
 
     const char* name;
-    bool takesOnePart;
+    std::size_t fewest; // parts that it works on
+    std::size_t most;
     std::function<void(ZOLIQRDCfgInterfaces&, ZOLDialog*, Parts&, ZOLGYRError&)> call;
+
+    bool Takes(std::size_t parts) const { return parts >= fewest && parts <= most; }
 
     // All of them, in the order of the interface; those on milestones twice, with "Date" and "Range" behind the name.
     static const std::vector<ModuleOperation>& All();

@@ -1,5 +1,6 @@
 #include "session/StructureTree.h"
 
+#include "service/ConfigurablePartQuery.h"
 #include "service/ZOLQRDCfgManager.h"
 #include "values/ZOLGYRError.h"
 
@@ -46,13 +47,20 @@ StructureTree::StructureTree(const ZOLListValZOLDMInstance& roots, int levels)
     ReadLevels();
 }
 
+void StructureTree::ReadStates(const std::vector<ZOLDMInstance>& parts) {
+    ZOLGYRError error; // the structure is readable without
+    const std::vector<bool> areConfigurable = ConfigurablePartQuery::Among(parts, error);
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        _children[parts[i]];
+        if (areConfigurable[i])
+            _states.try_emplace(parts[i], State(parts[i]));
+    }
+}
+
 void StructureTree::ReadLevels() {
     ZOLListValZOLDMInstance level = _roots;
     for (int depth = 0; level.Size() > 0; ++depth) {
-        for (const ZOLDMInstance& part : level) {
-            _children[part];
-            _states.try_emplace(part, State(part));
-        }
+        ReadStates({level.begin(), level.end()});
         if (depth == _levels)
             return;
         ZOLListValZOLDMInstance links;

@@ -27,6 +27,7 @@ private:
     using Path = std::vector<ZOLDMInstance>;
 
     void ReadLevels();
+    void ReadStates(const std::vector<ZOLDMInstance>& parts);
     void PrintPart(const ZOLDMInstance& part, Path& path, std::ostream& output) const;
     nlohmann::ordered_json JsonOf(const ZOLDMInstance& part, Path& path) const;
     // The parts below one at the end of a path; none below the last level, or where a cycle in the data closes.
@@ -35,7 +36,7 @@ private:
     ZOLListValZOLDMInstance _roots;
     int _levels;
     std::unordered_map<ZOLDMInstance, std::vector<ZOLDMInstance>> _children;
-    std::unordered_map<ZOLDMInstance, ZOLUnicodeString> _states;
+    std::unordered_map<ZOLDMInstance, ZOLUnicodeString> _states; // of configurable parts
 };
 
 } // namespace trellis

@@ -162,6 +162,16 @@ TEST_F(ProgramTest, AdministratorValuesAreThoseOfTheDatabase) {
     EXPECT_NE(Trellis({"config"}).output.find("(not set: off)"), std::string::npos);
 }
 
+TEST_F(ProgramTest, TheFontIsASettingThatTheCommandLineOverrides) {
+    _program.environment["TRELLIS_FONT_SIZE"] = "14";
+    EXPECT_NE(_program.Run({"config"}).output.find("FONT.SIZE = 14\n"), std::string::npos);
+    const std::string output = _program.Run({"--font-size", "12", "--font", "Sans", "config"}).output;
+    EXPECT_NE(output.find("FONT.SIZE = 12\n"), std::string::npos);
+    EXPECT_NE(output.find("FONT.FAMILY = Sans\n"), std::string::npos);
+    for (const char* wrong : {"large", "0", "12pt"})
+        EXPECT_EQ(_program.Run({"--font-size", wrong, "config"}).exitCode, 2) << wrong;
+}
+
 TEST_F(ProgramTest, CheckFindsWhatAnotherProgramBroke) {
     CreateWithPart();
     EXPECT_EQ(Trellis({"db", "check"}).exitCode, 0);

@@ -1,74 +1,14 @@
-#include "navigator/NavigatorWindow.h"
+#include "navigator/NavigatorFixture.h"
 
-#include "model/DatabaseSession.h"
-#include "model/StructureImport.h"
 #include "model/ZOLDMClipboard.h"
 #include "service/ZOLQRDCfgManager.h"
-#include "support/StoredDatabase.h"
-#include "support/TemporaryFolder.h"
-#include "toolkit/CallbackScope.h"
-#include "toolkit/ZOLUserDriver.h"
-
-#include <gtest/gtest.h>
+#include "site/ZOLIQrdSCManager.h"
 
 namespace {
 
 using Driver = ZOLUserDriver;
-using trellis::NavigatorWindow;
 using trellis::test::StoredDatabase;
-using trellis::test::TemporaryFolder;
-
-class NavigatorWindowTest : public testing::Test {
-protected:
-    NavigatorWindowTest() : _session(trellis::HostOptions{_folder.Path("a.db"), {}, false}) {
-        ZOLGYRError error;
-        trellis::DatabaseSession::Create(_folder.Path("a.db"), error);
-        trellis::ImportReport report;
-        trellis::StructureImport::ReadText("record,id,number,name,parent,child,position\n"
-                                           "part,b,BIKE,Bike,,,\npart,f,FRAME,Frame,,,\npart,t,TUBE,Tube,,,\n"
-                                           "part,w,WHEEL,Wheel,,,\n"
-                                           "link,,,,b,f,10\nlink,,,,b,w,20\nlink,,,,f,t,10\n",
-                                           trellis::StructureImport::Form::Csv, "test", report, error);
-        EXPECT_EQ(error.GetCode(), 0);
-        _session.OpenDatabase();
-        _window = new NavigatorWindow(_session);
-        _window->SetVisibility(ZOLShown);
-        _graph = static_cast<ZOLGraphViewer*>(Driver::Find(_window, "Structure"));
-    }
-    ~NavigatorWindowTest() override {
-        EXPECT_EQ(Driver::PendingAnswers(), 0);
-        for (const Driver::Message& message : Driver::TakeMessages())
-            ADD_FAILURE() << "nobody read: " << message.text.Bytes();
-        if (!_hasLeft)
-            _window->RequestDelayedDestruction();
-        trellis::CallbackScope::FreeGivenUp();
-        EXPECT_EQ(Driver::Top(), nullptr);
-    }
-
-    ZOLGraphNode* Node(std::vector<ZOLUnicodeString> path) const { return Driver::Node(_graph, path); }
-    void Click(std::vector<ZOLUnicodeString> path, bool extend = false) {
-        Driver::Click(_graph, Node(path), extend);
-    }
-    void Call(std::vector<ZOLUnicodeString> path, const std::string& item) {
-        Driver::ContextClick(_graph, Node(path));
-        Driver::Menu(_graph, item);
-    }
-    bool Sees(const std::string& text) const {
-        return Driver::Describe(_window).find(text) != std::string::npos;
-    }
-    std::vector<int> TakeCodes() {
-        std::vector<int> codes;
-        for (const Driver::Message& message : Driver::TakeMessages())
-            codes.push_back(message.code);
-        return codes;
-    }
-
-    TemporaryFolder _folder;
-    trellis::HostSession _session;
-    NavigatorWindow* _window;
-    ZOLGraphViewer* _graph;
-    bool _hasLeft = false;
-};
+using NavigatorWindowTest = trellis::test::NavigatorFixture;
 
 TEST_F(NavigatorWindowTest, BranchesOpenAndCloseLevelByLevel) {
     EXPECT_FALSE(Sees("FRAME"));
@@ -88,7 +28,7 @@ TEST_F(NavigatorWindowTest, APartIsMadeConfigurableFromItsMenuAndShowsIt) {
     Call({"BIKE Bike"}, "Part/SetConfigurable");
     EXPECT_TRUE(TakeCodes().empty());
     EXPECT_NE(Node({"BIKE Bike [configurable]"}), nullptr);
-    EXPECT_EQ(StoredDatabase(_folder.Path("a.db")).Count("configurable_part"), 1);
+    EXPECT_EQ(Stored("configurable_part"), 1);
     Call({"BIKE Bike [configurable]"}, "Part/SetConfigurable");
     EXPECT_EQ(TakeCodes(), std::vector<int>{20267});
     EXPECT_TRUE(Sees("This object is configurable already")) << Driver::Describe(_window);
@@ -96,14 +36,14 @@ TEST_F(NavigatorWindowTest, APartIsMadeConfigurableFromItsMenuAndShowsIt) {
 
 TEST_F(NavigatorWindowTest, WhatNeedsOnePartIsGreyedForSeveral) {
     Click({"BIKE Bike"});
-    Click({"BIKE Bike", "WHEEL Wheel"}, true);
-    Driver::ContextClick(_graph, Node({"BIKE Bike", "WHEEL Wheel"}));
+    Click({"BIKE Bike", "WHEEL Wheel (front)"}, true);
+    Driver::ContextClick(_graph, Node({"BIKE Bike", "WHEEL Wheel (front)"}));
     EXPECT_THROW(Driver::Menu(_graph, "Part/SetConfigurable"), Driver::Refused);
-    Driver::Press(Driver::Find(_window, "Copy"));
+    Driver::Menu(_bar, "EditMenu/CopyItem");
     EXPECT_EQ(ZOLDMClipboard::GetNbObject(), 2);
     Click({"BIKE Bike"}, true);
-    Call({"BIKE Bike", "WHEEL Wheel"}, "Part/SetConfigurable");
-    EXPECT_EQ(StoredDatabase(_folder.Path("a.db")).Count("configurable_part"), 1);
+    Call({"BIKE Bike", "WHEEL Wheel (front)"}, "Part/SetConfigurable");
+    EXPECT_EQ(Stored("configurable_part"), 1);
 }
 
 TEST_F(NavigatorWindowTest, SearchGoesFromMatchToMatchAndSaysWhenThereIsNone) {
@@ -111,11 +51,14 @@ TEST_F(NavigatorWindowTest, SearchGoesFromMatchToMatchAndSaysWhenThereIsNone) {
     Driver::Type(Driver::Find(_window, "SearchEd"), "e");
     Driver::Enter(Driver::Find(_window, "SearchEd"));
     EXPECT_TRUE(Sees("\"FRAME Frame\"")) << Driver::Describe(_window);
-    Driver::Press(Driver::Find(_window, "Copy"));
+    Driver::Menu(_bar, "EditMenu/CopyItem");
     EXPECT_EQ(ZOLDMClipboard::GetObject(1).GetNameInstance(1, 1, " ", ""), "FRAME Frame");
     Driver::Press(Driver::Find(_window, "SearchNext"));
-    Driver::Press(Driver::Find(_window, "Copy"));
+    Driver::Menu(_bar, "EditMenu/CopyItem");
     EXPECT_EQ(ZOLDMClipboard::GetObject(1).GetNameInstance(1, 1, " ", ""), "WHEEL Wheel");
+    Driver::Press(Driver::Find(_window, "SearchPrevious"));
+    Driver::Menu(_bar, "EditMenu/CopyItem");
+    EXPECT_EQ(ZOLDMClipboard::GetObject(1).GetNameInstance(1, 1, " ", ""), "FRAME Frame");
     Driver::Type(Driver::Find(_window, "SearchEd"), "saddle");
     Driver::Enter(Driver::Find(_window, "SearchEd"));
     EXPECT_TRUE(Sees("No part in the open branches"));
@@ -125,7 +68,7 @@ TEST_F(NavigatorWindowTest, UnsavedChangesAreShownSavedDiscardedAndAskedAboutBef
     EXPECT_THROW(Driver::Press(Driver::Find(_window, "Save")), Driver::Refused);
     ZOLGYRError error;
     ZOLQRDCfgManager* manager = ZOLQRDCfgManager::CurrentCfgManager(error);
-    manager->SetConfigurable(static_cast<trellis::NavigatorNode*>(Node({"BIKE Bike"}))->Part(), error);
+    manager->SetConfigurable(Node({"BIKE Bike"})->Part(), error);
     Click({"BIKE Bike"});
     EXPECT_FALSE(Sees("unsaved changes: 0")) << Driver::Describe(_window);
 
@@ -139,7 +82,106 @@ TEST_F(NavigatorWindowTest, UnsavedChangesAreShownSavedDiscardedAndAskedAboutBef
     _hasLeft = true;
     EXPECT_EQ(Driver::Top(), nullptr);
     EXPECT_EQ(TakeCodes(), (std::vector<int>{0, 0, 0}));
-    EXPECT_EQ(StoredDatabase(_folder.Path("a.db")).Count("configurable_part"), 1);
+    EXPECT_EQ(Stored("configurable_part"), 1);
+}
+
+TEST_F(NavigatorWindowTest, EffectivitiesOfALinkStandInItsLineWithTheirLimits) {
+    ZOLGYRError error;
+    ZOLQRDCfgManager& manager = *ZOLQRDCfgManager::CurrentCfgManager(error);
+    manager.SetConfigurable(Node({"BIKE Bike"})->Part(), error);
+    ZOLQRDConfigurableObject bike;
+    manager.GetConfigurableObject(Node({"BIKE Bike"})->Part(), bike, error);
+    const ZOLQRDTime day(ZOLUnicodeString("2026-03-01"), error);
+    bike.GetConfigItem()->AddEffectivity({"option_range", "LHD", 5, 0, {}, {}}, error);
+    bike.GetConfigItem()->AddEffectivity({"date", "", 0, 0, day, day + 30}, error);
+    manager.Save(error);
+    ASSERT_EQ(error.GetCode(), 0);
+    StoredDatabase(_folder.Path("a.db"))
+        .Run(
+            "INSERT INTO link_effectivity (id, version, last_modifier, last_update, link_id, effectivity_id) "
+            "SELECT 990000 + e.id, 1, '', 0, l.id, e.id FROM link l, effectivity e WHERE l.name = 'front'");
+    Driver::Menu(_bar, "ViewMenu/RefreshItem");
+    Click({"BIKE Bike [configurable]"});
+    EXPECT_EQ(Below({"BIKE Bike [configurable]"}).back(),
+              "WHEEL Wheel (front) {LHD, from 5; 2026-03-01 to 2026-03-31}");
+}
+
+TEST_F(NavigatorWindowTest, ABranchOpensToItsEndAndLeavesHaveNoFolder) {
+    Choose({"BIKE Bike"});
+    Driver::Menu(_bar, "ViewMenu/OpenBranchItem");
+    ASSERT_NE(Node({"BIKE Bike", "FRAME Frame", "TUBE Tube"}), nullptr);
+    EXPECT_FALSE(Node({"BIKE Bike", "FRAME Frame", "TUBE Tube"})->HasPixmap());
+    EXPECT_TRUE(Node({"BIKE Bike", "FRAME Frame"})->HasPixmap());
+    Driver::Menu(_bar, "ViewMenu/CloseBranchItem");
+    EXPECT_EQ(Node({"BIKE Bike", "FRAME Frame"}), nullptr);
+}
+
+TEST_F(NavigatorWindowTest, RefreshShowsWhatAnotherUserStored) {
+    Click({"BIKE Bike"});
+    StoredDatabase(_folder.Path("a.db")).Run("DELETE FROM link WHERE name = 'front'");
+    Driver::Menu(_bar, "ViewMenu/RefreshItem");
+    EXPECT_EQ(Below({"BIKE Bike"}), std::vector<std::string>{"FRAME Frame"});
+    EXPECT_NE(Node({"WHEEL Wheel"}), nullptr) << "nothing holds it now";
+}
+
+TEST_F(NavigatorWindowTest, ThePictureIsSavedWhereTheUserSaysAndReplacedOnlyWhenAsked) {
+    const std::string path = _folder.Path("picture.svg");
+    const auto save = [&](int replace) {
+        Driver::WhenAsked([&, replace](const Driver::Message& message) {
+            if (message.text.SearchSubString("exists already") >= 0)
+                return replace;
+            Driver::Type(Driver::Find(Driver::Top(), "PathEd"), path);
+            return 1;
+        });
+        Driver::Menu(_bar, "ViewMenu/SavePictureItem");
+        Driver::WhenAsked({});
+        TakeCodes();
+    };
+    save(2);
+    EXPECT_NE(trellis::test::TemporaryFolder::Read(path).find("<svg"), std::string::npos);
+    _folder.Write("picture.svg", "mine");
+    save(2);
+    EXPECT_EQ(trellis::test::TemporaryFolder::Read(path), "mine");
+    save(1);
+    EXPECT_NE(trellis::test::TemporaryFolder::Read(path), "mine");
+}
+
+TEST_F(NavigatorWindowTest, TheWindowComesBackInTheSizeItHadAndForgetsNonsense) {
+    const auto widthOnOpening = [this] {
+        Open();
+        return _window->GetLayoutHints().size.width;
+    };
+    const int usual = _window->GetLayoutHints().size.width;
+    _window->SetShownSize({1000, 640});
+    Driver::CloseWindow(_window);
+    EXPECT_EQ(widthOnOpening(), 1000);
+    for (const char* nonsense : {"size -5 99999999999", "\xff\xfe", "", "size 1000", "size 100 3"}) {
+        Driver::CloseWindow(_window);
+        _folder.Write("state/trellis/navigator", nonsense);
+        EXPECT_EQ(widthOnOpening(), usual) << nonsense;
+    }
+}
+
+TEST_F(NavigatorWindowTest, TheKeyboardChoosesSeveralAndGivesUpOnTheWayBack) {
+    using enum ZOLUserKey;
+    const auto chosen = [this] {
+        Driver::Menu(_bar, "EditMenu/CopyItem");
+        return ZOLDMClipboard::GetNbObject();
+    };
+    Click({"BIKE Bike"});
+    Driver::Key(_graph, ShiftDown);
+    Driver::Key(_graph, ShiftDown);
+    EXPECT_EQ(chosen(), 3);
+    Driver::Key(_graph, ShiftUp);
+    EXPECT_EQ(chosen(), 2);
+    Driver::Key(_graph, CtrlSpace);
+    EXPECT_EQ(chosen(), 1) << "the one with the focus left";
+    EXPECT_EQ(ZOLDMClipboard::GetObject(1).GetNameInstance(1, 1, " ", ""), "BIKE Bike");
+}
+
+TEST_F(NavigatorWindowTest, WhoWorksOnWhichDatabaseCanBeRead) {
+    EXPECT_TRUE(Sees("a.db")) << Driver::Describe(_window);
+    EXPECT_TRUE(Sees(GetSecurityManager()->GetCurrentPerson()->GetName().Bytes()));
 }
 
 } // namespace

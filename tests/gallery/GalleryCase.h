@@ -1,0 +1,28 @@
+#pragma once
+
+#include "gallery/GalleryHand.h"
+
+#include <functional>
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+// GalleryCase: how one kind of widget is operated in the gallery, and what arrives then.
+struct GalleryCase {
+    using Gesture = std::function<void(GalleryHand& hand, ZOLDialog& widget)>;
+    using News = std::vector<std::string>; // the values, as the log of the gallery tells them
+
+    const char* name;
+    const char* page;   // of the gallery
+    const char* widget; // its path on the page
+    Gesture byMouse;
+    News newsOfMouse;
+    Gesture byKeys;
+    News newsOfKeys;
+    const char* sender = nullptr; // who sends, where that is not the widget
+
+    friend std::ostream& operator<<(std::ostream& out, const GalleryCase& gallery);
+};
+
+// All kinds, one in a row.
+const std::vector<GalleryCase>& GalleryCases();
