@@ -1,0 +1,260 @@
+// ZOLCategoryGraphViewer: the selection: taking it over, telling it, playing the rules on it, and undo.
+
+#include "graph/ZOLCategoryGraphViewer.h"
+#include "service/ZOLQRDCfgManager.h"
+#include "service/ZOLRuleHandler.h"
+#include "toolkit/ZOLInteractiveApplication.h"
+#include "values/ZOLGYRError.h"
+
+#include <iostream>
+#include <memory>
+#include <unordered_set>
+
+namespace {
+
+// One text for what two equal parameters have in common.
+std::string Identity(const ZOLParameter& parameter) {
+    return parameter.GetParameterString(0).Bytes() + (parameter.IsNot() ? "-" : "+");
+}
+
+} // namespace
+
+void ZOLCategoryGraphViewer::SetSelected(const ZOLListValZOLQRDCfgEffectivity& terms, const int centre,
+                                         const int resetSaved) {
+    if (resetSaved)
+        ResetSavedParameters();
+    std::unordered_set<std::string> known;
+    for (const ZOLParameter* parameter : _current)
+        known.insert(Identity(*parameter));
+    for (const ZOLQRDCfgEffectivity& term : terms) {
+        if (term.IsUndefined() || term.IsIgnored())
+            continue;
+        const ZOLCategoryNode* node = NodeOfTerm(term);
+        const ZOLUnicodeString category = !term.GetCategory().IsEmpty() ? term.GetCategory()
+                                          : node                        ? node->GetCategoryName()
+                                                                        : ZOLUnicodeString();
+        auto parameter =
+            std::make_unique<ZOLParameter>(category, term.GetOptionName(), term.IsRejected() ? 1 : 0);
+        parameter->SetParameterSource(term.IsRuleDefined() ? ZOLParameter::SourceRule
+                                                           : ZOLParameter::SourceUser);
+        if (!known.contains(Identity(*parameter)))
+            _current.Append(parameter.release());
+    }
+    PlayOrUpdate();
+    SaveCurrentParameters();
+    if (centre > 0 && centre <= terms.Size())
+        SetCentered(terms[centre]);
+}
+
+void ZOLCategoryGraphViewer::SetSelected(const ZOLListPtrZOLParameter& parameters, const int resetSaved) {
+    if (resetSaved)
+        ResetSavedParameters();
+    ZOLDeleteElements(_current);
+    _current = parameters;
+    PlayOrUpdate();
+    SaveCurrentParameters();
+}
+
+ZOLListValZOLIQrdCategory_var ZOLCategoryGraphViewer::AllCategories() const {
+    ZOLListValZOLIQrdCategory_var all;
+    ZOLGYRError error;
+    ZOLQRDCfgManager* manager = ZOLQRDCfgManager::CurrentCfgManager(error);
+    for (int i = 1; manager && i <= _dictionaries.Size(); ++i) {
+        ZOLListValZOLIQrdCategory_var categories;
+        manager->GetCategoriesFromDictionary(_dictionaries[i], categories);
+        all.Append(categories);
+    }
+    return all;
+}
+
+ZOLListValZOLQRDCfgEffectivity ZOLCategoryGraphViewer::GetOptions(const int withOthers) const {
+    ZOLListValZOLQRDCfgEffectivity terms;
+    ZOLListValZOLIQrdCategory_var categories;
+    if (withOthers)
+        GetCategories(categories, 1);
+    else
+        categories = AllCategories();
+    if (_ignored.Size() == categories.Size())
+        return terms;
+    const bool isMerging = _otherCategories.Size() > 0 || _dictionaries.Size() >= 2;
+    std::unordered_map<ZOLUnicodeString, const ZOLParameter*> chosen; // the first of each option name
+    for (const ZOLParameter* parameter : _current)
+        chosen.emplace(parameter->GetOption(), parameter);
+    std::unordered_set<ZOLUnicodeString> told;
+    for (const ZOLIQrdCategory_var& category : categories) {
+        const bool isIgnored = _ignored.Locate(category->GetName(), 1) > 0;
+        ZOLListValZOLIQrdEffectivity_var options;
+        category->GetOptions(options);
+        for (const ZOLIQrdEffectivity_var& option : options) {
+            ZOLQRDCfgEffectivity term(option);
+            const auto found = chosen.find(term.GetOptionName());
+            if (isIgnored) {
+                term.SetIgnored();
+            } else if (found != chosen.end()) {
+                term.SetRuleDefined(found->second->GetParameterSource() == ZOLParameter::SourceRule);
+                term.SetRejected(found->second->IsNot());
+            } else if (_isAdvanced) {
+                term.SetUndefined();
+            } else {
+                continue;
+            }
+            // Terms of options are equal by their name.
+            if (!isMerging || told.insert(term.GetOptionName()).second)
+                terms.Append(term);
+        }
+    }
+    return terms;
+}
+
+trellis::SelectionMerge ZOLCategoryGraphViewer::Merge() {
+    return {_current, {_isAdvanced != 0, _managesRejection != 0}};
+}
+
+void ZOLCategoryGraphViewer::AddUserSelectedToCurrent(ZOLParameter* parameter) {
+    ZOLListValZOLUnicodeString names;
+    Merge().Select(std::unique_ptr<ZOLParameter>(parameter), [&](const ZOLUnicodeString& category) {
+        const ZOLCategoryNode* node = NodeOfCategory(category);
+        if (node)
+            names = node->GetOptNameList();
+        return node ? &names : nullptr;
+    });
+}
+
+void ZOLCategoryGraphViewer::AddUserRejectedToCurrent(ZOLParameter* parameter) {
+    Merge().Reject(std::unique_ptr<ZOLParameter>(parameter));
+}
+
+void ZOLCategoryGraphViewer::AddRuleParamToCurrent(const ZOLParameter* parameter) {
+    if (!ParameterInList(parameter, _current, 1, -1))
+        _current.Append(new ZOLParameter(*parameter));
+}
+
+void ZOLCategoryGraphViewer::RemoveRuleDefinedFromCurrent() {
+    ZOLListPtrZOLParameter kept;
+    for (ZOLParameter* parameter : _current)
+        if (parameter->GetParameterSource() == ZOLParameter::SourceRule)
+            delete parameter;
+        else
+            kept.Append(parameter);
+    _current = kept;
+}
+
+void ZOLCategoryGraphViewer::SetCurrent(const ZOLListPtrZOLParameter& parameters) {
+    ZOLDeleteElements(_current);
+    _current = parameters;
+}
+
+void ZOLCategoryGraphViewer::PlayRules() {
+    ZOLInteractiveApplication::GetApplication()->SetBusyCursor();
+    ZOLRuleHandler handler(_dictionaries);
+    ZOLListPtrZOLParameter backup;
+    for (const ZOLParameter* parameter : _current)
+        backup.Append(new ZOLParameter(*parameter));
+    RemoveRuleDefinedFromCurrent();
+    if (!_areDirectiveRulesOn)
+        handler.DisableDirectiveRules();
+    if (!_arePackagesOn)
+        handler.DisablePackages();
+    if (!_areMatricesOn)
+        handler.DisableMatrices();
+    ZOLExpression result(0);
+    ZOLListPtrZOLExpression expressions;
+    ZOLListPtrZOLParameter conflicts;
+    ZOLListPtrZOLParameter irresolutions;
+    int incompatible = 0;
+    handler.SolveRulesForOptions(_current, result, expressions, incompatible, conflicts, irresolutions);
+    if (!_isCheckMode)
+        TakeOver(result);
+    if (conflicts.Size() > 0)
+        SetCurrent(backup);
+    else
+        ZOLDeleteElements(backup);
+    ClearConflicts();
+    UpdateWithParameters();
+    if (conflicts.Size() > 0 || incompatible)
+        HighlightConflicts(conflicts);
+    else if (irresolutions.Size() > 0 && !_isCheckMode)
+        HighlightIrresolutions(irresolutions);
+    if (incompatible)
+        std::cout << "Rules incompatibility detected" << std::endl;
+    ZOLDeleteElements(conflicts);
+    ZOLDeleteElements(irresolutions);
+    ZOLDeleteElements(expressions);
+}
+
+// AddRuleParamToCurrent for each, by one look at what is there.
+void ZOLCategoryGraphViewer::TakeOver(const ZOLExpression& result) {
+    std::unordered_set<std::string> known;
+    for (const ZOLParameter* parameter : _current)
+        known.insert(Identity(*parameter));
+    for (ZOLParameter* parameter : result.GetParameters())
+        if (known.insert(Identity(*parameter)).second)
+            _current.Append(parameter);
+        else
+            delete parameter;
+}
+
+// Each node gets the parameters of its own category alone: the whole list for each would be compared a thousand times.
+void ZOLCategoryGraphViewer::UpdateWithParameters() {
+    std::unordered_map<ZOLUnicodeString, ZOLListPtrZOLParameter> parametersOf;
+    for (ZOLParameter* parameter : _current)
+        parametersOf[parameter->GetCategory()].Append(parameter);
+    for (ZOLCategoryNode* node : _nodes) {
+        node->ClearDefined();
+        if (!node->SetParameters(parametersOf[node->GetCategoryName()], _hidesRuleRejected,
+                                 _hidesUserRejected))
+            _ignored.RemoveValue(node->GetCategoryName());
+    }
+    UpdateRootNodeColor(0);
+}
+
+void ZOLCategoryGraphViewer::PlayOrUpdate() {
+    _areRulesOn ? PlayRules() : UpdateWithParameters();
+}
+
+void ZOLCategoryGraphViewer::HighlightConflicts(const ZOLListPtrZOLParameter& parameters) {
+    for (ZOLCategoryNode* node : _nodes)
+        node->HighlightConflicts(parameters);
+    UpdateRootNodeColor(1);
+}
+
+void ZOLCategoryGraphViewer::HighlightIrresolutions(const ZOLListPtrZOLParameter& parameters) {
+    for (ZOLCategoryNode* node : _nodes)
+        node->HighlightIrresolutions(parameters);
+    UpdateRootNodeColor(0);
+}
+
+void ZOLCategoryGraphViewer::ClearConflicts() {
+    for (ZOLCategoryNode* node : _nodes)
+        node->ClearConflicts();
+    UpdateRootNodeColor(0);
+}
+
+void ZOLCategoryGraphViewer::SaveCurrentParameters() {
+    _undo.Save(_current, _ignored);
+}
+
+void ZOLCategoryGraphViewer::ResetSavedParameters() {
+    _undo.Clear();
+}
+
+void ZOLCategoryGraphViewer::Undo() {
+    Restore(_undo.Undo());
+}
+
+void ZOLCategoryGraphViewer::Redo() {
+    Restore(_undo.Redo());
+}
+
+void ZOLCategoryGraphViewer::Restore(const trellis::UndoRing::State* state) {
+    if (!state)
+        return;
+    ZOLDeleteElements(_current);
+    for (const ZOLParameter& parameter : state->parameters)
+        _current.Append(new ZOLParameter(parameter));
+    if (_isAdvanced) {
+        _ignored = state->ignoredCategories;
+        IgnoreCategories(_ignored);
+    }
+    PlayOrUpdate();
+}
