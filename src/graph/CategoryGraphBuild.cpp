@@ -91,10 +91,7 @@ void ZOLCategoryGraphViewer::ChooseTerms(const ZOLListValZOLQRDCfgEffectivity& t
         if (term.IsIgnored() && node) {
             _ignored.Append(category);
         } else if (!term.IsUndefined()) {
-            auto* parameter = new ZOLParameter(category, term.GetOptionName(), term.IsRejected() ? 1 : 0);
-            parameter->SetParameterSource(term.IsRuleDefined() ? ZOLParameter::SourceRule
-                                                               : ZOLParameter::SourceUser);
-            _current.Append(parameter);
+            _current.Append(ParameterOf(term, category, node).release());
         }
     }
     _ignored.Append(untold);

@@ -6,6 +6,7 @@
 #include "toolkit/ZOLDlgSeparatorItem.h"
 
 #include <string_view>
+#include <unordered_set>
 
 namespace {
 
@@ -94,13 +95,15 @@ void ZOLCategoryGraphViewer::FillMenu(ZOLCategoryNode& node) {
 
 void ZOLCategoryGraphViewer::AddAllOf(const ZOLCategoryNode& node, int isNot) {
     const ZOLUnicodeString category = node.GetCategoryName();
-    std::unordered_map<ZOLUnicodeString, bool> known;
+    std::unordered_set<ZOLUnicodeString> known;
     for (const ZOLParameter* parameter : _current)
         if (parameter->GetCategory() == category)
-            known.emplace(parameter->GetOption(), true);
+            known.insert(parameter->GetOption());
     for (const ZOLUnicodeString& option : node.GetOptNameList())
-        if (!known.contains(option))
+        if (!known.contains(option)) {
             _current.Append(new ZOLParameter(category, option, isNot));
+            _current[_current.Size()]->SetCategoryExclusivity(node.GetExclusivity());
+        }
 }
 
 void ZOLCategoryGraphViewer::RemoveFromCurrent(const ZOLUnicodeString& category,

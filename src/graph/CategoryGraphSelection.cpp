@@ -33,10 +33,7 @@ void ZOLCategoryGraphViewer::SetSelected(const ZOLListValZOLQRDCfgEffectivity& t
         const ZOLUnicodeString category = !term.GetCategory().IsEmpty() ? term.GetCategory()
                                           : node                        ? node->GetCategoryName()
                                                                         : ZOLUnicodeString();
-        auto parameter =
-            std::make_unique<ZOLParameter>(category, term.GetOptionName(), term.IsRejected() ? 1 : 0);
-        parameter->SetParameterSource(term.IsRuleDefined() ? ZOLParameter::SourceRule
-                                                           : ZOLParameter::SourceUser);
+        auto parameter = ParameterOf(term, category, node);
         if (!known.contains(Identity(*parameter)))
             _current.Append(parameter.release());
     }
@@ -44,6 +41,17 @@ void ZOLCategoryGraphViewer::SetSelected(const ZOLListValZOLQRDCfgEffectivity& t
     SaveCurrentParameters();
     if (centre > 0 && centre <= terms.Size())
         SetCentered(terms[centre]);
+}
+
+// The rules take the exclusivity of a category from its parameters.
+std::unique_ptr<ZOLParameter> ZOLCategoryGraphViewer::ParameterOf(const ZOLQRDCfgEffectivity& term,
+                                                                  const ZOLUnicodeString& category,
+                                                                  const ZOLCategoryNode* node) {
+    auto parameter = std::make_unique<ZOLParameter>(category, term.GetOptionName(), term.IsRejected());
+    parameter->SetParameterSource(term.IsRuleDefined() ? ZOLParameter::SourceRule : ZOLParameter::SourceUser);
+    if (node)
+        parameter->SetCategoryExclusivity(node->GetExclusivity());
+    return parameter;
 }
 
 void ZOLCategoryGraphViewer::SetSelected(const ZOLListPtrZOLParameter& parameters, const int resetSaved) {

@@ -54,6 +54,7 @@ void SelectionMerge::Select(std::unique_ptr<ZOLParameter> clicked, const Options
                 continue;
             auto* rejection = new ZOLParameter(category, name, 1);
             rejection->SetParameterSource(ZOLParameter::SourceUser);
+            rejection->SetCategoryExclusivity(1);
             _current.Append(rejection);
         }
     }

@@ -6,6 +6,7 @@
 #include "service/ZOLIQrdConfigItem.h"
 #include "toolkit/ZOLGraphViewer.h"
 
+#include <memory>
 #include <unordered_map>
 
 class ZOLDlgContextualMenu;
@@ -146,6 +147,9 @@ private:
     void DeleteNodes();
     void BuildNodes();
     void AddCategoryNode(ZOLCategoryNode* node);
+    static std::unique_ptr<ZOLParameter> ParameterOf(const ZOLQRDCfgEffectivity& term,
+                                                     const ZOLUnicodeString& category,
+                                                     const ZOLCategoryNode* node);
     void ChooseTerms(const ZOLListValZOLQRDCfgEffectivity& terms);
     void ChooseDefaults();
     void ChooseDefaultsOf(const ZOLIQrdCategory_var& category);

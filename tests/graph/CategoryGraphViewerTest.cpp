@@ -134,7 +134,7 @@ TEST_F(CategoryGraph, DefaultsAreChosenOnlyWhereNothingElseIsTold) {
     ZOLListValZOLQRDCfgEffectivity terms;
     terms.Append(ZOLQRDCfgEffectivity("LED", ""));
     Build(terms);
-    EXPECT_EQ(Selection().substr(0, 5), "+LED ");
+    EXPECT_EQ(Selection(), "+LED /HALOGEN ") << "exclusive as its category is";
     viewer->ResetAll();
     EXPECT_EQ(Selection(), "+BELL +RACK ") << "the first selection of the viewer";
     {
