@@ -60,7 +60,10 @@ int CommandLine::Run(int argc, const char* const* argv, const WindowJobs& window
     CLI::App program(Description, "trellis");
     DeclareOptions(program, options);
     program.require_subcommand(0, 1);
+    DeclareConfigureCommand(program, job);
+    DeclareCheckCommand(program, job);
     DeclareImportCommands(program, job);
+    DeclareExportCommands(program, job);
     DeclareTreeCommand(program, job);
     DeclareScriptCommand(program, job);
     CLI::App& database = *program.add_subcommand("db", "make, examine and administer a database");

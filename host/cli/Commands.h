@@ -14,6 +14,9 @@ using Job = std::function<ExitCode(HostSession&)>;
 
 // Each declares one group of commands, which set `job` when they are named.
 void DeclareImportCommands(CLI::App& program, Job& job);
+void DeclareExportCommands(CLI::App& program, Job& job);
+void DeclareConfigureCommand(CLI::App& program, Job& job);
+void DeclareCheckCommand(CLI::App& program, Job& job);
 void DeclareTreeCommand(CLI::App& program, Job& job);
 void DeclareScriptCommand(CLI::App& program, Job& job);
 void DeclareDatabaseCommands(CLI::App& database, Job& job);

@@ -3,6 +3,7 @@
 #include "model/StructureImport.h"
 #include "service/DictionaryImport.h"
 #include "service/ModelImport.h"
+#include "service/RuleImport.h"
 #include "session/MessageOutput.h"
 
 #include <fmt/format.h>
@@ -19,6 +20,12 @@ namespace {
 constexpr int FileUnreadable = 60202;
 constexpr int StoreUnreachable = 20901;
 constexpr int StoreNotWritten = 20903;
+
+struct Arguments {
+    std::string file;
+    std::string product;
+    bool replaces = false;
+};
 
 // How far an import is, on one line of a terminal that is written over and gone in the end. It holds no
 // colour and no control sequence but the carriage return, so every terminal shows it. A pipe or a file gets
@@ -86,11 +93,11 @@ ExitCode Import(HostSession& session, const Read& read, const Tell& tell) {
     return Verdict(error);
 }
 
-ExitCode ImportStructure(HostSession& session, const std::string& file) {
+ExitCode ImportStructure(HostSession& session, const Arguments& arguments) {
     return Import<ImportReport>(
         session,
         [&](ImportReport& report, ZOLGYRError& error, const ProgressCB& progress) {
-            StructureImport::ReadFile(file, report, error, progress);
+            StructureImport::ReadFile(arguments.file, report, error, progress);
         },
         [](const ImportReport& report) {
             fmt::print("parts: {} new, {} changed; links: {} new, {} changed\n", report.newParts,
@@ -98,11 +105,11 @@ ExitCode ImportStructure(HostSession& session, const std::string& file) {
         });
 }
 
-ExitCode ImportDictionary(HostSession& session, const std::string& file, const std::string& product) {
+ExitCode ImportDictionary(HostSession& session, const Arguments& arguments) {
     return Import<DictionaryImportReport>(
         session,
         [&](DictionaryImportReport& report, ZOLGYRError& error, const ProgressCB& progress) {
-            DictionaryImport::ReadFile(file, product, report, error, progress);
+            DictionaryImport::ReadFile(arguments.file, arguments.product, report, error, progress);
         },
         [](const DictionaryImportReport& report) {
             fmt::print("categories: {} new, {} changed; options: {} new, {} changed\n", report.newCategories,
@@ -110,11 +117,11 @@ ExitCode ImportDictionary(HostSession& session, const std::string& file, const s
         });
 }
 
-ExitCode ImportModel(HostSession& session, const std::string& file, const std::string& product) {
+ExitCode ImportModel(HostSession& session, const Arguments& arguments) {
     return Import<ModelImportReport>(
         session,
         [&](ModelImportReport& report, ZOLGYRError& error, const ProgressCB& progress) {
-            ModelImport::ReadFile(file, product, report, error, progress);
+            ModelImport::ReadFile(arguments.file, arguments.product, report, error, progress);
         },
         [](const ModelImportReport& report) {
             fmt::print("new: {} categories, {} options, {} rules\n", report.categories, report.options,
@@ -122,46 +129,60 @@ ExitCode ImportModel(HostSession& session, const std::string& file, const std::s
         });
 }
 
+ExitCode ImportRules(HostSession& session, const Arguments& arguments) {
+    const auto others = arguments.replaces ? RuleImport::Others::Remove : RuleImport::Others::Keep;
+    return Import<RuleImportReport>(
+        session,
+        [&](RuleImportReport& report, ZOLGYRError& error, const ProgressCB& progress) {
+            RuleImport::ReadFile(arguments.file, arguments.product, others, report, error, progress);
+        },
+        [](const RuleImportReport& report) {
+            fmt::print("rules: {} new, {} changed; matrices: {} new, {} changed; removed: {}\n",
+                       report.newRules, report.changedRules, report.newMatrices, report.changedMatrices,
+                       report.removed);
+        });
+}
+
+using ArgumentsPtr = std::shared_ptr<Arguments>;
+using ImportJob = ExitCode (*)(HostSession&, const Arguments&);
+
+CLI::App& DeclareImport(CLI::App& import, const char* name, const char* description, const char* file,
+                        const ArgumentsPtr& arguments, Job& job, ImportJob run) {
+    CLI::App& command = *import.add_subcommand(name, description);
+    command.add_option("FILE", arguments->file, file)->required();
+    command.callback([&job, arguments, run] {
+        job = [arguments, run](HostSession& session) { return run(session, *arguments); };
+    });
+    return command;
+}
+
+// An import into the dictionary of a product.
+CLI::App& DeclareProductImport(CLI::App& import, const char* name, const char* description, const char* file,
+                               const ArgumentsPtr& arguments, Job& job, ImportJob run) {
+    CLI::App& command = DeclareImport(import, name, description, file, arguments, job, run);
+    command.add_option("--product", arguments->product, "number of the configurable part, or: corporate")
+        ->type_name("NUMBER")
+        ->required();
+    return command;
+}
+
 } // namespace
 
 void DeclareImportCommands(CLI::App& program, Job& job) {
-    struct Arguments {
-        std::string file;
-        std::string product;
-    };
     const auto arguments = std::make_shared<Arguments>();
-
     CLI::App& import =
         *program.add_subcommand("import", "bring data of a file into the database, whole or not at all");
     import.require_subcommand(1);
-
-    CLI::App& structure = *import.add_subcommand("structure", "parts and links, from CSV or JSON");
-    structure.add_option("FILE", arguments->file, "the file, .csv or .json")->required();
-    structure.callback([&job, arguments] {
-        job = [arguments](HostSession& session) { return ImportStructure(session, arguments->file); };
-    });
-
-    CLI::App& dictionary = *import.add_subcommand("dictionary", "categories and options, from CSV or JSON");
-    dictionary.add_option("FILE", arguments->file, "the file, .csv or .json")->required();
-    dictionary.add_option("--product", arguments->product, "number of the configurable part, or: corporate")
-        ->type_name("NUMBER")
-        ->required();
-    dictionary.callback([&job, arguments] {
-        job = [arguments](HostSession& session) {
-            return ImportDictionary(session, arguments->file, arguments->product);
-        };
-    });
-
-    CLI::App& model = *import.add_subcommand("model", "a variability model into an empty dictionary");
-    model.add_option("FILE", arguments->file, "the file: .cnf or .dimacs, or UVL")->required();
-    model.add_option("--product", arguments->product, "number of the configurable part, or: corporate")
-        ->type_name("NUMBER")
-        ->required();
-    model.callback([&job, arguments] {
-        job = [arguments](HostSession& session) {
-            return ImportModel(session, arguments->file, arguments->product);
-        };
-    });
+    DeclareImport(import, "structure", "parts and links, from CSV or JSON", "the file, .csv or .json",
+                  arguments, job, ImportStructure);
+    DeclareProductImport(import, "dictionary", "categories and options, from CSV or JSON",
+                         "the file, .csv or .json", arguments, job, ImportDictionary);
+    DeclareProductImport(import, "model", "a variability model into an empty dictionary",
+                         "the file: .cnf or .dimacs, or UVL", arguments, job, ImportModel);
+    DeclareProductImport(import, "rules", "rules, packages and matrices of a dictionary",
+                         "the file, as export writes it", arguments, job, ImportRules)
+        .add_flag("--replace", arguments->replaces,
+                  "remove the rules and matrices that the file does not name");
 }
 
 } // namespace trellis
