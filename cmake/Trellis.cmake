@@ -53,12 +53,12 @@ function(trellis_platform_folder name)
     set_property(GLOBAL APPEND PROPERTY TRELLIS_PLATFORM_LIBRARIES ${ARG_LIBRARIES})
 endfunction()
 
-# trellis_test(name SOURCES ... [LABEL unit|journey] [INTERNAL | FOLDERS ...] [LIBRARIES ...])
+# trellis_test(name SOURCES ... [LABEL unit|journey|x11] [APART] [INTERNAL | FOLDERS ...] [LIBRARIES ...])
 # INTERNAL tests look behind the contracts: they link the objects of the platform, whose inner classes the
 # shared library hides; FOLDERS names the few that are enough. All others link the library as a host does. Tests of label unit run in one process,
-# shuffled; each test case of label journey runs in a process of its own, so that the statics of the module start fresh.
+# shuffled; each test case of label journey, or of one that is to be APART, runs in a process of its own, so that the statics of the module start fresh.
 function(trellis_test name)
-    cmake_parse_arguments(ARG "INTERNAL" "LABEL" "SOURCES;LIBRARIES;FOLDERS" ${ARGN})
+    cmake_parse_arguments(ARG "INTERNAL;APART" "LABEL" "SOURCES;LIBRARIES;FOLDERS" ${ARGN})
     if(NOT ARG_LABEL)
         set(ARG_LABEL unit)
     endif()
@@ -84,9 +84,9 @@ function(trellis_test name)
     endif()
     trellis_precompile(${target})
     set(environment "TRELLIS_RESOURCES=${CMAKE_SOURCE_DIR}/resources")
-    if(ARG_LABEL STREQUAL journey)
+    if(ARG_APART OR ARG_LABEL STREQUAL journey)
         add_dependencies(${target} trellis trellis-module)
-        gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST PROPERTIES LABELS journey ENVIRONMENT "${environment}")
+        gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST PROPERTIES LABELS ${ARG_LABEL} ENVIRONMENT "${environment}")
     else()
         add_test(NAME ${name} COMMAND ${target} --gtest_shuffle --gtest_brief=1)
         set_tests_properties(${name} PROPERTIES LABELS ${ARG_LABEL} TIMEOUT 300

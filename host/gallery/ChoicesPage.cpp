@@ -67,20 +67,14 @@ void ChoicesPage::BuildMenu(ZOLDlgFrame* frame) {
     Log(target, target->GetPushBActivateNotification(),
         [=](const ZOLNotification&) { return target->GetTitle(); });
     auto* menu = new ZOLDlgContextualMenu(frame, "FrameMenu");
-    const auto add = [this](ZOLDialog* pane, const char* name) {
-        auto* item = new ZOLDlgPushItem(pane, name);
-        Log(item, item->GetMenuIActivateNotification(),
-            [=](const ZOLNotification&) { return item->GetTitle(); });
-        return item;
-    };
-    add(menu, "Open");
+    AddItem(menu, "Open");
     auto* sort = new ZOLDlgSubMenu(menu, "Sort");
-    add(sort, "SortByName");
-    add(sort, "SortByDate");
+    AddItem(sort, "SortByName");
+    AddItem(sort, "SortByDate");
     auto* more = new ZOLDlgSubMenu(sort, "SortMore");
-    add(more, "SortByOwner");
+    AddItem(more, "SortByOwner");
     new ZOLDlgSeparatorItem(menu, "MenuSeparator");
-    add(menu, "Remove")->SetSensitivity(ZOLGreyed);
+    AddItem(menu, "Remove")->SetSensitivity(ZOLGreyed);
 }
 
 } // namespace trellis

@@ -4,7 +4,6 @@
 #include "toolkit/ZOLDlgContextualMenu.h"
 #include "toolkit/ZOLDlgEditor.h"
 #include "toolkit/ZOLDlgLabel.h"
-#include "toolkit/ZOLDlgPushItem.h"
 
 namespace trellis {
 
@@ -83,8 +82,7 @@ void FieldsPage::BuildLabels(ZOLDlgFrame* frame) {
     AddExample(new ZOLDlgLabel(frame, "PlainLabel"));
     auto* label = new ZOLDlgLabel(frame, "MenuLabel");
     AddExample(label);
-    auto* item = new ZOLDlgPushItem(new ZOLDlgContextualMenu(label, "LabelMenu"), "LabelItem");
-    Log(item, item->GetMenuIActivateNotification(), [=](const ZOLNotification&) { return item->GetTitle(); });
+    AddItem(new ZOLDlgContextualMenu(label, "LabelMenu"), "LabelItem");
 }
 
 } // namespace trellis

@@ -37,8 +37,9 @@ void GalleryLog::Add(const ZOLCommand& sender, const ZOLNotification& notificati
             value);
 }
 
-void GalleryLog::AddRemark(const ZOLUnicodeString& remark) {
-    AddLine(remark, {}, {}, {});
+void GalleryLog::AddRemark(const ZOLUnicodeString& remark, const ZOLUnicodeString& widget,
+                           const ZOLUnicodeString& value) {
+    AddLine(remark, widget, {}, value);
 }
 
 void GalleryLog::AddLine(const ZOLUnicodeString& notification, const ZOLUnicodeString& widget,

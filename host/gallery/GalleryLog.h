@@ -11,8 +11,9 @@ public:
     GalleryLog(ZOLDialog* father, const ZOLString& name);
 
     void Add(const ZOLCommand& sender, const ZOLNotification& notification, const ZOLUnicodeString& value);
-    // A line about something else.
-    void AddRemark(const ZOLUnicodeString& remark);
+    // A line about something else, which may have to do with one widget.
+    void AddRemark(const ZOLUnicodeString& remark, const ZOLUnicodeString& widget = {},
+                   const ZOLUnicodeString& value = {});
 
 private:
     void AddLine(const ZOLUnicodeString& notification, const ZOLUnicodeString& widget,

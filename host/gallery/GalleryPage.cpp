@@ -1,5 +1,6 @@
 #include "gallery/GalleryPage.h"
 
+#include "toolkit/ZOLDlgPushItem.h"
 #include "toolkit/ZOLDlgTabContainer.h"
 
 namespace trellis {
@@ -81,6 +82,12 @@ void GalleryPage::Log(ZOLDialog* sender, ZOLNotification* notification, Value va
 void GalleryPage::Log(ZOLDialog* sender, const char* className, Value value) {
     _values.push_back(std::make_unique<Value>(std::move(value)));
     AddAnalyseNotificationCB(sender, className, ZOL_CALLBACK(&GalleryPage::HeardCB), _values.back().get());
+}
+
+ZOLDlgPushItem* GalleryPage::AddItem(ZOLDialog* menu, const char* name) {
+    auto* item = new ZOLDlgPushItem(menu, name);
+    Log(item, item->GetMenuIActivateNotification(), [=](const ZOLNotification&) { return item->GetTitle(); });
+    return item;
 }
 
 void GalleryPage::HeardCB(ZOLCommand* sender, ZOLNotification* notification, void* value) {

@@ -8,6 +8,7 @@
 #include <memory>
 #include <vector>
 
+class ZOLDlgPushItem;
 class ZOLDlgTabContainer;
 
 namespace trellis {
@@ -47,8 +48,13 @@ protected:
     void Log(ZOLDialog* sender, ZOLNotification* notification, Value value);
     // The same for all notifications of a class.
     void Log(ZOLDialog* sender, const char* className, Value value);
+    // An item of a menu. When it is chosen, the log gets its title.
+    ZOLDlgPushItem* AddItem(ZOLDialog* menu, const char* name);
     // A line of the log about something that is no notification.
-    void Remark(const ZOLUnicodeString& remark) { _log.AddRemark(remark); }
+    void Remark(const ZOLUnicodeString& remark, const ZOLUnicodeString& widget = {},
+                const ZOLUnicodeString& value = {}) {
+        _log.AddRemark(remark, widget, value);
+    }
     ZOLUnicodeString Text(const char* key) const;
 
 private:

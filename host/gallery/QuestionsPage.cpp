@@ -4,8 +4,11 @@
 #include "toolkit/ZOLDlgDialog.h"
 #include "toolkit/ZOLDlgEditor.h"
 #include "toolkit/ZOLDlgLabel.h"
+#include "toolkit/ZOLDlgMenuBar.h"
 #include "toolkit/ZOLDlgNotify.h"
 #include "toolkit/ZOLDlgPushButton.h"
+#include "toolkit/ZOLDlgPushItem.h"
+#include "toolkit/ZOLDlgSubMenu.h"
 #include "toolkit/ZOLInteractiveApplication.h"
 #include "values/ZOLGYRError.h"
 
@@ -64,10 +67,7 @@ void QuestionsPage::BuildProgress(ZOLDlgFrame* frame) {
 }
 
 void QuestionsPage::TellAnswer(const char* box, int answer) {
-    ZOLUnicodeString remark;
-    GetResourceValueFromKey("Answer.Msg", remark,
-                            {ZOLUnicodeString(box), ZOLUnicodeString::FromNumber(answer)});
-    Remark(remark);
+    Remark(Text("Answer.Msg"), box, ZOLUnicodeString::FromNumber(answer));
 }
 
 void QuestionsPage::NoticeCB(ZOLCommand*, ZOLNotification*, void*) {
@@ -124,11 +124,22 @@ void QuestionsPage::WaitingDialogCB(ZOLCommand*, ZOLNotification*, void*) {
 
 void QuestionsPage::WindowCB(ZOLCommand*, ZOLNotification*, void*) {
     auto* window = new ZOLDlgWindow(this, "ExampleWindow");
+    AddMenuBar(window);
     new ZOLDlgLabel(window, "WindowLabel");
     Log(window, window->GetWindCloseNotification(), &Empty);
     AddAnalyseNotificationCB(window, window->GetWindCloseNotification(),
                              ZOL_CALLBACK(&QuestionsPage::CloseCB));
     window->SetVisibility(ZOLShown);
+}
+
+void QuestionsPage::AddMenuBar(ZOLDlgWindow* window) {
+    auto* bar = new ZOLDlgMenuBar(window, "WindowBar");
+    auto* file = new ZOLDlgSubMenu(bar, "File");
+    AddItem(file, "Open");
+    AddItem(file, "Remove")->SetSensitivity(ZOLGreyed);
+    auto* sort = new ZOLDlgSubMenu(bar, "Sort");
+    for (const char* name : {"SortByName", "SortByDate", "SortByOwner"})
+        AddItem(sort, name);
 }
 
 void QuestionsPage::CloseCB(ZOLCommand* sender, ZOLNotification*, void*) {

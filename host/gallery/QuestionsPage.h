@@ -3,6 +3,7 @@
 #include "gallery/GalleryPage.h"
 
 class ZOLDlgLabel;
+class ZOLDlgWindow;
 
 namespace trellis {
 
@@ -19,6 +20,7 @@ private:
     void BuildBoxes(ZOLDlgFrame* frame);
     void BuildWindows(ZOLDlgFrame* frame);
     void BuildProgress(ZOLDlgFrame* frame);
+    void AddMenuBar(ZOLDlgWindow* window);
     void AddButton(ZOLDlgFrame* frame, const char* name, ZOLNotificationMethod method);
 
     void NoticeCB(ZOLCommand*, ZOLNotification*, void*);

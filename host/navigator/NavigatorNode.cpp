@@ -3,6 +3,7 @@
 #include "navigator/StructureEdit.h"
 #include "session/EffectivityText.h"
 #include "toolkit/ZOLGYRResource.h"
+#include "toolkit/ZOLGraphArc.h"
 
 namespace trellis {
 
@@ -97,6 +98,13 @@ void NavigatorNode::Refresh(const ZOLListValZOLIQrdEffectivity_var& effectivitie
         setColor(_link->IsRemoved() ? RemovedColour : PendingColour);
     else
         setColor(state.IsEmpty() ? PlainColour : ConfigurableColour);
+}
+
+std::vector<NavigatorNode*> NavigatorNode::Children() const {
+    std::vector<NavigatorNode*> children;
+    for (const ZOLGraphArc* arc : ChildArcs())
+        children.push_back(static_cast<NavigatorNode*>(arc->GetChild()));
+    return children;
 }
 
 void NavigatorNode::SetBranch(Branch branch) {

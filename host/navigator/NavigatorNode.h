@@ -4,6 +4,8 @@
 #include "service/ZOLIQrdEffectivity.h"
 #include "toolkit/ZOLGraphNode.h"
 
+#include <vector>
+
 namespace trellis {
 
 class StructureEdit;
@@ -18,6 +20,8 @@ public:
     explicit NavigatorNode(SdaiAppInstance& link);
 
     const ZOLDMInstance& Part() const { return _part; }
+    // In the order of the outline; those of a branch that was read.
+    std::vector<NavigatorNode*> Children() const;
     // Null for a root.
     SdaiAppInstance* Link() const { return _link; }
     // Text and colour by what part and link are now: names, effectivities of the link, how the part stands as a

@@ -1,23 +1,18 @@
 #include "navigator/NavigatorWindow.h"
 
-#include "model/PartQuery.h"
+#include "model/ZOLDMPubSub.h"
 #include "navigator/NavigatorMenus.h"
-#include "navigator/PictureDialog.h"
-#include "navigator/RenameDialog.h"
 #include "navigator/WindowMemory.h"
 #include "panels/ZOLGYRDlgError.h"
 #include "site/ZOLIQrdSCManager.h"
-#include "toolkit/GraphExport.h"
 #include "toolkit/ZOLDlgFrame.h"
 #include "toolkit/ZOLDlgMenuBar.h"
 #include "toolkit/ZOLDlgPushItem.h"
 #include "toolkit/ZOLDlgSeparatorItem.h"
 #include "toolkit/ZOLDlgSubMenu.h"
-#include "toolkit/ZOLUserDriver.h"
 
 #include <ctime>
 #include <filesystem>
-#include <limits>
 
 namespace trellis {
 
@@ -29,8 +24,6 @@ constexpr int MostMessages = 500;
 constexpr int TimeWidth = 9;
 constexpr int MessageWidth = 110;
 constexpr int SearchWidth = 30;
-constexpr int NotFound = 60606;
-constexpr int FirstButton = 1;
 constexpr LayoutSize UsualSize = {1040, 780};
 
 ZOLUnicodeString TimeOfDay() {
@@ -74,7 +67,13 @@ NavigatorWindow::NavigatorWindow(HostSession& session)
                              ZOL_CALLBACK(&NavigatorWindow::ChoiceCB));
     AddAnalyseNotificationCB(_graph, "ZOLNodeContextNotification", ZOL_CALLBACK(&NavigatorWindow::ContextCB));
     AddAnalyseNotificationCB(this, GetWindCloseNotification(), ZOL_CALLBACK(&NavigatorWindow::LeaveCB));
+    AddAnalyseNotificationCB(this, "ZOLWindowEnterNotification", ZOL_CALLBACK(&NavigatorWindow::EnterCB));
+    _listener = ZOLDMPubSub::AddListener([this](const ZOLDMInstance&, int) { _isStale = true; });
     ReadAgain();
+}
+
+NavigatorWindow::~NavigatorWindow() {
+    ZOLDMPubSub::RemoveListener(_listener);
 }
 
 ZOLString NavigatorWindow::GetResourceFilename(int level) const {
@@ -86,31 +85,6 @@ ZOLUnicodeString NavigatorWindow::Text(const std::string& key,
     ZOLUnicodeString text;
     GetResourceValueFromKey(key.c_str(), text, parameters);
     return text;
-}
-
-const std::vector<NavigatorWindow::Action>& NavigatorWindow::Actions() {
-    using This = NavigatorWindow;
-    static const std::vector<Action> actions = {
-        {"SaveItem", &This::SaveAll, &This::HasUnsaved},
-        {"DiscardItem", &This::DiscardAll, &This::HasChanges},
-        {"UnsavedItem", &This::ListUnsaved, &This::HasChanges},
-        {"LeaveItem", &This::Leave, nullptr},
-        {"FindNextItem", &This::FindNext, &This::HasSearch},
-        {"FindPreviousItem", &This::FindPrevious, &This::HasSearch},
-        {"OpenBranchItem", &This::OpenBranch, &This::HasChoice},
-        {"CloseBranchItem", &This::CloseBranch, &This::HasChoice},
-        {"RefreshItem", &This::ReadAgain, nullptr},
-        {"SavePictureItem", &This::SavePicture, nullptr},
-        {"ContentsItem", &This::ShowHelp, nullptr},
-    };
-    return actions;
-}
-
-const NavigatorWindow::Action* NavigatorWindow::FindAction(const std::string& name) {
-    for (const Action& action : Actions())
-        if (name == action.name)
-            return &action;
-    return nullptr;
 }
 
 void NavigatorWindow::BuildMenuBar() {
@@ -184,145 +158,8 @@ void NavigatorWindow::BuildMessages() {
     _status = new ZOLDlgLabel(this, "Status");
 }
 
-void NavigatorWindow::SearchCB(ZOLCommand*, ZOLNotification*, void*) {
-    FindNext();
-}
-
-void NavigatorWindow::ChoiceCB(ZOLCommand*, ZOLNotification*, void*) {
-    Refresh();
-}
-
-void NavigatorWindow::LeaveCB(ZOLCommand*, ZOLNotification*, void*) {
-    Leave();
-}
-
-void NavigatorWindow::ContextCB(ZOLCommand*, ZOLNotification*, void*) {
-    for (const NavigatorMenu& group : NavigatorMenu::Operations()) {
-        auto* menu = new ZOLDlgSubMenu(_menu, group.name);
-        AddItems(menu, group.items);
-        Grey(menu);
-    }
-    new ZOLDlgSeparatorItem(_menu, "Separator");
-    AddItems(_menu, NavigatorMenu::OfNode());
-    Grey(_menu);
-}
-
-void NavigatorWindow::MenuOpensCB(ZOLCommand* menu, ZOLNotification*, void*) {
-    Grey(static_cast<ZOLDialog*>(menu));
-}
-
-void NavigatorWindow::ButtonCB(ZOLCommand*, ZOLNotification*, void* action) {
-    (this->*FindAction(static_cast<const char*>(action))->run)();
-}
-
-void NavigatorWindow::ItemCB(ZOLCommand* item, ZOLNotification*, void*) {
-    const std::string name(static_cast<ZOLDialog*>(item)->GetName().View());
-    if (const LinkGestures::Gesture* gesture = LinkGestures::Find(name))
-        RunGesture(*gesture);
-    else if (const Action* action = FindAction(name))
-        (this->*action->run)();
-    else if (const ModuleOperation* operation = ModuleOperation::Find(name))
-        RunOperation(*operation);
-}
-
-void NavigatorWindow::RunGesture(const LinkGestures::Gesture& gesture) {
-    ZOLGYRError error;
-    const int count = ((*_gestures).*gesture.run)(error);
-    if (count > 0)
-        Note(Text(gesture.message, {ZOLUnicodeString::FromNumber(count)}));
-    Report(error);
-    Refresh();
-}
-
-void NavigatorWindow::RunOperation(const ModuleOperation& operation) {
-    ZOLIQRDCfgInterfaces* module = _session.Module();
-    if (!module)
-        return;
-    const ZOLUnicodeString message = operation.Run(*module, this, _graph->Chosen());
-    if (!message.IsEmpty())
-        Note(message);
-    _graph->Synchronise();
-}
-
-void NavigatorWindow::Search(StructureGraph::Direction direction) {
-    const ZOLUnicodeString text = _search->GetText();
-    if (text.IsEmpty() || _graph->ChooseNext(text, direction))
-        return;
-    ZOLGYRError error;
-    error.Set(NotFound, -1, {text});
-    ZOLUnicodeString message;
-    error.GetLongMsg(message);
-    Note(message);
-}
-
-void NavigatorWindow::OpenBranch() {
-    if (!_graph->OpenChosen(std::numeric_limits<int>::max()))
-        Note(Text("OpenedInPart.Msg"));
-}
-
-void NavigatorWindow::ReadAgain() {
-    ZOLGYRError error;
-    ZOLListValZOLDMInstance roots;
-    PartQuery::Roots(roots, error);
-    if (error.GetCode() == 0)
-        _graph->ShowRoots(roots);
-    Report(error);
-}
-
-void NavigatorWindow::SavePicture() {
-    ZOLUnicodeString path;
-    auto* dialog = new PictureDialog(this);
-    const bool isNamed = dialog->Ask(path);
-    dialog->RequestDelayedDestruction();
-    std::error_code none;
-    if (!isNamed || (std::filesystem::exists(path.Bytes(), none) &&
-                     _work.Ask("ConfirmOverwrite", Text("ConfirmOverwrite.Msg", {path})) != FirstButton))
-        return;
-    ZOLGYRError error;
-    if (GraphExport::Save(*_graph->GetGraph(), path, GraphExport::FormatOf(path), error))
-        Note(Text("PictureSaved.Msg", {path}));
-    Report(error);
-}
-
-void NavigatorWindow::ShowHelp() {
-    try {
-        ZOLUserDriver::Key(this, ZOLUserKey::F1);
-    } catch (const ZOLUserDriver::Refused&) {
-        Note(Text("NoHelp.Msg"));
-    }
-}
-
-bool NavigatorWindow::AskName(ZOLUnicodeString& name) {
-    auto* dialog = new RenameDialog(this, name);
-    const bool isGiven = dialog->Ask(name);
-    dialog->RequestDelayedDestruction();
-    return isGiven;
-}
-
-void NavigatorWindow::SaveAll() {
-    _work.Save();
-    Refresh();
-}
-
-void NavigatorWindow::DiscardAll() {
-    if (_work.Discard())
-        _graph->Synchronise();
-}
-
-void NavigatorWindow::ListUnsaved() {
-    _work.List();
-    _graph->Synchronise();
-}
-
-void NavigatorWindow::Leave() {
-    if (!_work.MayLeave())
-        return;
-    WindowMemory::Keep(GetShownSize());
-    RequestDelayedDestruction();
-}
-
 void NavigatorWindow::Refresh() {
-    const int unsaved = _work.CountUnsaved();
+    const int unsaved = _unsavedShown = _work.CountUnsaved();
     const int edits = _work.CountEdits();
     const auto activate = [](ZOLDlgPushButton* button, bool on) {
         button->SetSensitivity(on ? ZOLActive : ZOLGreyed);

@@ -21,6 +21,7 @@ class NavigatorWindow : public ZOLDlgWindow {
     ZOL_META_OBJECT(NavigatorWindow, ZOLDlgWindow)
 public:
     explicit NavigatorWindow(HostSession& session);
+    ~NavigatorWindow() override;
 
     ZOLString GetResourceFilename(int level) const override;
     // Closes the window; with unsaved changes or edits of links it asks first.
@@ -50,10 +51,13 @@ private:
     void MenuOpensCB(ZOLCommand* menu, ZOLNotification*, void*);
     void ItemCB(ZOLCommand* item, ZOLNotification*, void*);
     void ButtonCB(ZOLCommand*, ZOLNotification*, void* action);
+    void EnterCB(ZOLCommand*, ZOLNotification*, void*);
     void LeaveCB(ZOLCommand*, ZOLNotification*, void*);
 
     void RunGesture(const LinkGestures::Gesture& gesture);
     void RunOperation(const ModuleOperation& operation);
+    void NoteStates(const std::vector<ZOLDMInstance>& parts, const std::vector<ZOLUnicodeString>& before);
+    void ShowChanges();
     void SaveAll();
     void DiscardAll();
     void ListUnsaved();
@@ -90,6 +94,9 @@ private:
     ZOLDlgPushButton* _save;
     ZOLDlgPushButton* _discard;
     ZOLDlgPushButton* _unsaved;
+    int _unsavedShown = 0;
+    bool _isStale = false; // something was stored since it was read
+    int _listener = 0;     // of what is stored
 };
 
 } // namespace trellis

@@ -24,27 +24,6 @@ constexpr std::size_t MostOpened = 2000;
 using Branch = NavigatorNode::Branch;
 using Nodes = StructureGraph::Nodes;
 
-NavigatorNode* NodeOf(ZOLNotification* notification) {
-    auto* graphNotification = dynamic_cast<ZOLGraphNotification*>(notification);
-    return graphNotification ? dynamic_cast<NavigatorNode*>(graphNotification->GetNode()) : nullptr;
-}
-
-ZOLUnicodeString Folded(ZOLUnicodeString text) {
-    text.ToUpper();
-    return text;
-}
-
-Nodes ChildrenOf(const NavigatorNode* node) {
-    Nodes children;
-    for (const ZOLGraphArc* arc : node->ChildArcs())
-        children.push_back(static_cast<NavigatorNode*>(arc->GetChild()));
-    return children;
-}
-
-bool Holds(const Nodes& nodes, const NavigatorNode* node) {
-    return std::find(nodes.begin(), nodes.end(), node) != nodes.end();
-}
-
 } // namespace
 
 StructureGraph::StructureGraph(ZOLDialog* father, const ZOLString& name, const StructureEdit& edit)
@@ -103,7 +82,7 @@ void StructureGraph::Drop(const Nodes& tops) {
     while (!waiting.empty()) {
         NavigatorNode* node = waiting.back();
         waiting.pop_back();
-        const Nodes children = ChildrenOf(node);
+        const Nodes children = node->Children();
         waiting.insert(waiting.end(), children.begin(), children.end());
         gone.insert(node);
         node->RequestDelayedDestruction();
@@ -139,7 +118,7 @@ void StructureGraph::ReadBranches(const Nodes& nodes) {
 void StructureGraph::SynchroniseBranch(NavigatorNode* node, const std::vector<SdaiAppInstance*>& links) {
     std::unordered_map<const SdaiAppInstance*, NavigatorNode*> present;
     std::vector<SdaiAppInstance*> before;
-    for (NavigatorNode* child : ChildrenOf(node)) {
+    for (NavigatorNode* child : node->Children()) {
         present[child->Link()] = child;
         before.push_back(child->Link());
     }
@@ -185,65 +164,6 @@ void StructureGraph::Refresh(const Nodes& nodes) {
     }
 }
 
-std::vector<ZOLDMInstance> StructureGraph::Chosen() const {
-    std::vector<ZOLDMInstance> parts;
-    for (const NavigatorNode* node : _chosen)
-        if (std::find(parts.begin(), parts.end(), node->Part()) == parts.end())
-            parts.push_back(node->Part());
-    return parts;
-}
-
-void StructureGraph::Choose(const Nodes& nodes) {
-    for (NavigatorNode* chosen : _chosen)
-        chosen->setHighlight(0);
-    _chosen = nodes;
-    for (NavigatorNode* chosen : _chosen)
-        chosen->setHighlight(1);
-    update();
-    SendNotification(GetFather(), &_choiceNotification);
-}
-
-void StructureGraph::ChooseLinks(const std::vector<SdaiAppInstance*>& links) {
-    Nodes nodes;
-    for (SdaiAppInstance* link : links)
-        for (NavigatorNode* node : _nodes)
-            if (node->Link() == link && nodes.size() < links.size())
-                nodes.push_back(node);
-    if (nodes.empty())
-        return;
-    Choose(nodes);
-    reveal(nodes.back());
-}
-
-void StructureGraph::SelectCB(ZOLCommand*, ZOLNotification* notification, void*) {
-    NavigatorNode* node = NodeOf(notification);
-    if (!node)
-        return;
-    const bool wasChosen = _chosen.size() == 1 && _chosen.front() == node;
-    if (!wasChosen)
-        Choose({node});
-    if (wasChosen || node->GetBranch() != Branch::Open)
-        Toggle(node);
-}
-
-void StructureGraph::ExtendCB(ZOLCommand*, ZOLNotification* notification, void*) {
-    NavigatorNode* node = NodeOf(notification);
-    if (!node)
-        return;
-    Nodes chosen = _chosen;
-    if (std::erase(chosen, node) == 0)
-        chosen.push_back(node);
-    Choose(chosen);
-}
-
-// A context gesture on a part that is not chosen means that part; the menu itself is built by the window.
-void StructureGraph::ContextCB(ZOLCommand*, ZOLNotification* notification, void*) {
-    NavigatorNode* node = NodeOf(notification);
-    if (node && !Holds(_chosen, node))
-        Choose({node});
-    SendNotification(GetFather(), notification);
-}
-
 void StructureGraph::Toggle(NavigatorNode* node) {
     if (node->GetBranch() == Branch::Open)
         Close(node);
@@ -256,7 +176,7 @@ void StructureGraph::Close(NavigatorNode* node) {
     if (node->GetBranch() != Branch::Open)
         return;
     node->SetBranch(Branch::Closed);
-    for (NavigatorNode* child : ChildrenOf(node))
+    for (NavigatorNode* child : node->Children())
         child->hide();
 }
 
@@ -267,13 +187,13 @@ void StructureGraph::Open(const Nodes& nodes) {
             unread.push_back(node);
         if (node->GetBranch() != Branch::Leaf)
             node->SetBranch(Branch::Open);
-        for (NavigatorNode* child : ChildrenOf(node))
+        for (NavigatorNode* child : node->Children())
             child->show();
     }
     ReadBranches(unread);
     Nodes children;
     for (const NavigatorNode* node : unread) {
-        const Nodes below = ChildrenOf(node);
+        const Nodes below = node->Children();
         children.insert(children.end(), below.begin(), below.end());
     }
     Refresh(children);
@@ -289,7 +209,7 @@ bool StructureGraph::OpenChosen(int levels) {
         Open(level);
         Nodes below;
         for (const NavigatorNode* node : level) {
-            const Nodes children = ChildrenOf(node);
+            const Nodes children = node->Children();
             below.insert(below.end(), children.begin(), children.end());
         }
         count += below.size();
@@ -303,40 +223,6 @@ void StructureGraph::CloseChosen() {
     for (NavigatorNode* node : _chosen)
         Close(node);
     UpdateLayout();
-}
-
-// All nodes that are on the screen, row by row.
-Nodes StructureGraph::Outline() const {
-    Nodes rows;
-    Nodes waiting = Roots();
-    std::reverse(waiting.begin(), waiting.end());
-    while (!waiting.empty()) {
-        NavigatorNode* node = waiting.back();
-        waiting.pop_back();
-        rows.push_back(node);
-        if (node->GetBranch() != Branch::Open)
-            continue;
-        const Nodes children = ChildrenOf(node);
-        waiting.insert(waiting.end(), children.rbegin(), children.rend());
-    }
-    return rows;
-}
-
-bool StructureGraph::ChooseNext(const ZOLUnicodeString& text, Direction direction) {
-    const ZOLUnicodeString wanted = Folded(text);
-    Nodes rows = Outline();
-    if (direction == Direction::Back)
-        std::reverse(rows.begin(), rows.end());
-    const auto chosen = _chosen.empty() ? rows.end() : std::find(rows.begin(), rows.end(), _chosen.back());
-    if (chosen != rows.end())
-        std::rotate(rows.begin(), chosen + 1, rows.end());
-    for (NavigatorNode* node : rows)
-        if (Folded(node->getText()).SearchSubString(wanted, 0) >= 0) {
-            Choose({node});
-            reveal(node);
-            return true;
-        }
-    return false;
 }
 
 } // namespace trellis

@@ -2,6 +2,7 @@
 
 #include "service/ConfigurablePartQuery.h"
 #include "service/ZOLQRDCfgManager.h"
+#include "toolkit/ZOLGYRResource.h"
 #include "values/ZOLGYRError.h"
 
 #include <nlohmann/json.hpp>
@@ -16,8 +17,14 @@ std::string DisplayName(const ZOLDMInstance& part) {
     return part.GetNameInstance(1, 1, " ", "$BOM_NAVIG").Bytes();
 }
 
-std::string Counted(int count, const char* one, const char* many) {
-    return std::to_string(count) + ' ' + (count == 1 ? one : many);
+ZOLUnicodeString Text(const char* key, const ZOLListValZOLUnicodeString& parameters = {}) {
+    ZOLUnicodeString text = key;
+    ZOLGYRResource("StructureText").GetValue(key, text, parameters);
+    return text;
+}
+
+ZOLUnicodeString Counted(int count, const char* one, const char* many) {
+    return Text(count == 1 ? one : many, {ZOLUnicodeString::FromNumber(count)});
 }
 
 } // namespace
@@ -33,13 +40,13 @@ ZOLUnicodeString StructureTree::State(const ZOLDMInstance& part) {
         return {};
     const ZOLIQrdConfigItem_var dictionary = object.GetDictionary();
     if (dictionary == NULL_var)
-        return "configurable";
+        return Text("State");
     ZOLListVal<ZOLIQrdCategory_var> categories;
     ZOLListVal<ZOLQRDCfgEffectivity> options;
     manager->GetCategoriesFromDictionary(dictionary, categories);
     manager->GetOptionsFromDictionary(dictionary, options);
-    return "configurable, dictionary of " + Counted(categories.Size(), "category", "categories") + " and " +
-           Counted(options.Size(), "option", "options");
+    return Text("State.Dictionary", {Counted(categories.Size(), "Category", "Categories"),
+                                     Counted(options.Size(), "Option", "Options")});
 }
 
 StructureTree::StructureTree(const ZOLListValZOLDMInstance& roots, int levels)

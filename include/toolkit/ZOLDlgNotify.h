@@ -31,6 +31,9 @@ public:
     // The dialog over whose window the box stands while it waits; null when there is none.
     ZOLDialog* GetDialogBelow() const;
     bool IsQuestion() const;
+    // What the message on the screen is to its reader.
+    enum class Sign { Notice, Question, Error };
+    Sign GetSign() const;
     const ZOLUnicodeString& GetText() const { return _text; }
     const trellis::DialogButtons& GetButtons() const { return _buttons; }
 
@@ -44,5 +47,6 @@ public:
 private:
     trellis::DialogButtons _buttons;
     ZOLUnicodeString _text;
+    bool _isNotice = true;
     trellis::WeakCommand _below;
 };

@@ -8,6 +8,7 @@
 #include "site/LoggedInUser.h"
 #include "store/StoreExamination.h"
 #include "store/Workspace.h"
+#include "toolkit/ZOLGYRResource.h"
 
 namespace trellis {
 
@@ -50,33 +51,35 @@ bool WithSession(ZOLGYRError& error, Look&& look) {
     }
 }
 
-// What people call the kinds of objects, in the order of RowKind.
-const char* KindName(RowKind kind) {
-    static constexpr const char* names[] = {"part",
-                                            "attribute",
-                                            "link",
-                                            "configurable part",
-                                            "config item",
-                                            "category",
-                                            "option",
-                                            "option of a package",
-                                            "attribute",
-                                            "default option",
-                                            "matrix",
-                                            "column of a matrix",
-                                            "rule",
-                                            "reference of a rule",
-                                            "effectivity of a link",
-                                            "person",
-                                            "role",
-                                            "organization",
-                                            "site",
-                                            "person above",
-                                            "right",
-                                            "administrator value",
-                                            "event"};
-    static_assert(std::size(names) == static_cast<std::size_t>(RowKind::Count));
-    return names[static_cast<std::size_t>(kind)];
+// What people call the kinds of objects.
+ZOLUnicodeString KindName(RowKind kind) {
+    // The keys of the texts, in the order of RowKind.
+    static constexpr const char* keys[] = {"Part",
+                                           "PartAttribute",
+                                           "Link",
+                                           "ConfigurablePart",
+                                           "ConfigItem",
+                                           "Category",
+                                           "Effectivity",
+                                           "EffectivityOption",
+                                           "EffectivityAttribute",
+                                           "CategoryDefault",
+                                           "CompatibilityMatrix",
+                                           "MatrixColumn",
+                                           "ConfigRule",
+                                           "RuleReference",
+                                           "LinkEffectivity",
+                                           "Person",
+                                           "Role",
+                                           "Organization",
+                                           "Site",
+                                           "PeopleAbove",
+                                           "Right",
+                                           "AdministratorValue",
+                                           "Event"};
+    static_assert(std::size(keys) == static_cast<std::size_t>(RowKind::Count));
+    const char* key = keys[static_cast<std::size_t>(kind)];
+    return ZOLGYRResource("ObjectKinds").GetValueOr(key, key);
 }
 
 UnsavedChange::Kind ChangeKind(StoredObject::State state) {

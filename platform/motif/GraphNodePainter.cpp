@@ -32,6 +32,11 @@ int BorderOf(const ZOLGraphNode& node) {
     return node.getDecorationVisibility() ? GraphDrawing::Frame : GraphDrawing::Bare;
 }
 
+// Where icon and text begin: what no sign needs of the room for it is halved, so that they stand clear of the edge.
+int LeftOf(const ZOLGraphNode& node) {
+    return BorderOf(node) + (node.getDecorationVisibility() ? GraphDrawing::SignGap / 2 : 0);
+}
+
 void PathOf(cairo_t* context, const LayoutRectangle& place) {
     CairoShapes::RoundRectangle(context, place.x + 0.5, place.y + 0.5, place.width - 1, place.height - 1,
                                 Radius);
@@ -128,7 +133,8 @@ void GraphNodePainter::PaintSign(cairo_t* context, const ZOLGraphNode& node, con
 void GraphNodePainter::PaintText(cairo_t* context, const ZOLGraphNode& node, const LayoutRectangle& place) {
     const std::string_view text = node.getText().Bytes();
     const int border = BorderOf(node);
-    const int x = place.x + border + (node.HasPixmap() ? _text.LineHeight() + GraphDrawing::IconGap : 0);
+    const int x =
+        place.x + LeftOf(node) + (node.HasPixmap() ? _text.LineHeight() + GraphDrawing::IconGap : 0);
     int y = place.y + border;
     CairoShapes::SetColour(context, Theme::Text);
     for (std::size_t begin = 0, end = 0; end != std::string_view::npos; begin = end + 1) {
@@ -142,7 +148,7 @@ LayoutRectangle GraphNodePainter::IconPlace(const ZOLGraphNode& node, const Layo
     if (!node.HasPixmap())
         return {};
     const int border = BorderOf(node);
-    return {place.x + border, place.y + border, _text.LineHeight(), _text.LineHeight()};
+    return {place.x + LeftOf(node), place.y + border, _text.LineHeight(), _text.LineHeight()};
 }
 
 } // namespace trellis

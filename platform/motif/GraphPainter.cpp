@@ -51,10 +51,13 @@ void GraphPainter::Paint(cairo_t* context, const GraphPicture& picture) {
     cairo_restore(context);
 }
 
+bool GraphPainter::ShowsTexts(const GraphFrame& frame) const {
+    return _text.LineHeight() * frame.zoom >= SmallestText;
+}
+
 void GraphPainter::PaintNodes(cairo_t* context, const GraphPicture& picture) {
     const LayoutRectangle inSight = picture.frame.InSight();
-    const auto detail = _text.LineHeight() * picture.frame.zoom < SmallestText ? GraphNodePainter::WithoutText
-                                                                               : GraphNodePainter::Full;
+    const auto detail = ShowsTexts(picture.frame) ? GraphNodePainter::Full : GraphNodePainter::WithoutText;
     for (const DrawnNode& drawn : picture.drawing.Nodes())
         if (Meet(drawn.place, inSight))
             _nodes.Paint(context, *drawn.node, drawn.place, detail);

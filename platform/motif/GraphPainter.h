@@ -29,6 +29,7 @@ public:
     explicit GraphPainter(TextPainter& text) : _text(text), _nodes(text) {}
 
     void Paint(cairo_t* context, const GraphPicture& picture);
+    bool ShowsTexts(const GraphFrame& frame) const;
     GraphHit HitAt(const GraphPicture& picture, LayoutPoint pixel) const;
 
 private:

@@ -126,6 +126,20 @@ void ListPainter::PaintDropMark(cairo_t* context, const ListPicture& picture) {
     CairoShapes::Fill(context, {left, 0, 3, picture.area.height}, Theme::Accent);
 }
 
+ZOLUnicodeString ListPainter::CutTextAt(const ListPicture& picture, LayoutPoint point) const {
+    const ListHit hit = HitAt(picture, point);
+    if (hit.column < 0 || (hit.kind != ListHit::Row && hit.kind != ListHit::Header))
+        return {};
+    const PlacedColumn& column = picture.columns.Placed()[static_cast<std::size_t>(hit.column)];
+    const bool isTitle = hit.kind == ListHit::Header;
+    const ZOLUnicodeString text = isTitle ? picture.content.Title(column.column)
+                                          : picture.content.Text(picture.order.RowAt(hit.row), column.column);
+    const int left = column.x - picture.scrolledX;
+    const int right = std::min(left + column.width, picture.area.width) - CellPadding();
+    const int width = _text.Width(text.Bytes(), isTitle ? TextPainter::Bold : TextPainter::Plain);
+    return left < 0 || left + CellPadding() + width > right ? text : ZOLUnicodeString();
+}
+
 ListHit ListPainter::HitAt(const ListPicture& picture, LayoutPoint point) const {
     if (point.x < 0 || point.y < 0 || point.x >= picture.area.width || point.y >= picture.area.height)
         return {};

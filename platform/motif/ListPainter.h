@@ -48,6 +48,8 @@ public:
     int CellPadding() const { return _theme.Pixels(Theme::CellPadding); }
 
     void Paint(cairo_t* context, const ListPicture& picture);
+    // The text of the cell at a point when not all of it can be seen, else an empty one.
+    ZOLUnicodeString CutTextAt(const ListPicture& picture, LayoutPoint point) const;
     ListHit HitAt(const ListPicture& picture, LayoutPoint point) const;
 
 private:

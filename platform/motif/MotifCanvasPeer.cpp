@@ -66,6 +66,13 @@ void MotifCanvasPeer::Place(const LayoutRectangle& place) {
     Refresh();
 }
 
+ZOLUnicodeString MotifCanvasPeer::GetHiddenText(const LayoutPoint& place) const {
+    const LayoutPoint inside = {place.x - Border, place.y - Border};
+    const bool isInside =
+        inside.x >= 0 && inside.y >= 0 && inside.x < _canvasSize.width && inside.y < _canvasSize.height;
+    return isInside ? CutTextAt(inside) : ZOLUnicodeString();
+}
+
 void MotifCanvasPeer::Refresh() {
     if (!GetWidget())
         return;

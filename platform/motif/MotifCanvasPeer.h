@@ -17,6 +17,7 @@ public:
     void Mirror() override;
     void Place(const LayoutRectangle& place) override;
     Widget GetFocusWidget() const override { return _canvas; }
+    ZOLUnicodeString GetHiddenText(const LayoutPoint& place) const override;
 
 protected:
     Widget Build(Widget parent) override;
@@ -53,6 +54,8 @@ protected:
     // Cut to the range; what is seen is brought up to date behind it.
     virtual void ScrollTo(Axis axis, int first) = 0;
     virtual void Paint(cairo_t* context) = 0;
+    // The text at a place of the canvas when not all of it can be seen, else an empty one.
+    virtual ZOLUnicodeString CutTextAt(const LayoutPoint& place) const = 0;
     // Of each, what it does with the dialog comes last: the peer may be gone then.
     virtual void Pressed(const Mouse& mouse) = 0;
     virtual void Moved(const Mouse& mouse) = 0;

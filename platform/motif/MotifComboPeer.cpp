@@ -41,7 +41,10 @@ Widget MotifComboPeer::Build(Widget parent) {
     Connect<&MotifComboPeer::Chosen>(combo, XmNselectionCallback);
     WatchLine(field);
     Listen<&MotifComboPeer::PaintArrow>(combo, ExposureMask);
-    Listen<&MotifComboPeer::ArrowPressed>(combo, ButtonPressMask | ButtonReleaseMask);
+    Listen<&MotifComboPeer::ArrowTouched>(combo, ButtonPressMask | ButtonReleaseMask);
+    // The shell of the list has the mouse while it is open.
+    Listen<&MotifComboPeer::ArrowTouched>(XtNameToWidget(combo, "*GrabShell"),
+                                          ButtonPressMask | ButtonReleaseMask | StructureNotifyMask);
     if (_combo.IsEditable()) {
         Connect<&MotifComboPeer::Typed>(field, XmNvalueChangedCallback);
         Listen<&MotifComboPeer::TypingMoved>(field, FocusChangeMask);
@@ -59,6 +62,7 @@ void MotifComboPeer::Mirror() {
     MotifQuirks::SetSensitive(GetWidget(), _combo.IsSensitive());
     MotifFieldPeer::Mirror();
     MirrorLines();
+    MirrorSelection();
     const std::unique_ptr<char, decltype(&XtFree)> shown(XmTextFieldGetString(GetField()), &XtFree);
     const std::string& text = _combo.GetField().Bytes();
     if (shown.get() != text)
@@ -73,18 +77,28 @@ ZOLUnicodeString MotifComboPeer::GetLineText() const {
 // The list shows one line at least, or it cannot be sized.
 void MotifComboPeer::MirrorLines() {
     MotifFonts& fonts = GetView().GetFonts();
-    std::vector<XmString> items;
+    std::vector<std::string> lines;
     for (int line = 0; line < _combo.GetLineCount(); ++line) {
         ZOLUnicodeString text;
         _combo.GetLine(text, line);
-        items.push_back(fonts.Compose(text.Bytes()));
+        lines.push_back(text.Bytes());
     }
+    // An open list given its lines anew loses its width.
+    if (_lines == lines)
+        return;
+    _lines = lines;
+    std::vector<XmString> items;
+    for (const std::string& line : lines)
+        items.push_back(fonts.Compose(line));
     const int count = _combo.GetLineCount();
     fonts.TeachAll(XtNameToWidget(GetWidget(), "*List"));
     XtVaSetValues(GetWidget(), XmNitems, items.data(), XmNitemCount, count, XmNvisibleItemCount,
                   std::clamp(count, 1, mostRows), nullptr);
     for (XmString item : items)
         XmStringFree(item);
+}
+
+void MotifComboPeer::MirrorSelection() {
     if (_combo.GetSelect() >= 0)
         XtVaSetValues(GetWidget(), XmNselectedPosition, _combo.GetSelect(), nullptr);
 }
@@ -113,9 +127,9 @@ void MotifComboPeer::PaintArrow(Widget combo, XEvent* event) {
     cairo_surface_destroy(surface);
 }
 
-// Behind this handler the native arrow shows that it is pressed.
-void MotifComboPeer::ArrowPressed(Widget combo, XEvent*) {
-    MotifQuirks::Redraw(combo);
+// Behind this handler the native arrow shows whether it is pressed.
+void MotifComboPeer::ArrowTouched(Widget, XEvent*) {
+    MotifQuirks::Redraw(GetWidget());
 }
 
 // The caret shows only where the keyboard goes.

@@ -2,6 +2,10 @@
 
 #include "motif/MotifFieldPeer.h"
 
+#include <optional>
+#include <string>
+#include <vector>
+
 class ZOLDlgCombo;
 
 namespace trellis {
@@ -21,12 +25,14 @@ private:
     void Chosen(Widget, XtPointer callData);
     void Typed(Widget, XtPointer callData);
     void MirrorLines();
+    void MirrorSelection();
     void PaintArrow(Widget combo, XEvent* event);
-    void ArrowPressed(Widget combo, XEvent*);
+    void ArrowTouched(Widget, XEvent*);
     void TypingMoved(Widget field, XEvent* event);
     Widget GetField() const;
 
     ZOLDlgCombo& _combo;
+    std::optional<std::vector<std::string>> _lines; // as the native list has them
 };
 
 } // namespace trellis

@@ -85,7 +85,7 @@ void MotifGraphPeer::MoveViewPoint(LayoutPoint point) {
     _frame.viewPoint = point;
 }
 
-GraphPicture MotifGraphPeer::Picture() {
+GraphPicture MotifGraphPeer::Picture() const {
     return {_viewer.GetDrawing(Measure()),
             _viewer.GetGraph()->GetLayoutStyle(),
             _frame,
@@ -96,6 +96,19 @@ GraphPicture MotifGraphPeer::Picture() {
 
 void MotifGraphPeer::Paint(cairo_t* context) {
     _painter.Paint(context, Picture());
+}
+
+ZOLUnicodeString MotifGraphPeer::CutTextAt(const LayoutPoint& place) const {
+    const GraphPicture picture = Picture();
+    const GraphHit hit = _painter.HitAt(picture, place);
+    if (!hit.node)
+        return {};
+    const auto position = static_cast<std::size_t>(picture.drawing.Position(hit.node));
+    const LayoutRectangle& node = picture.drawing.Nodes()[position].place;
+    const LayoutRectangle sight = _frame.InSight();
+    const bool isCut = node.x < sight.x || node.y < sight.y || node.x + node.width > sight.x + sight.width ||
+                       node.y + node.height > sight.y + sight.height;
+    return isCut || !_painter.ShowsTexts(_frame) ? hit.node->getText() : ZOLUnicodeString();
 }
 
 LayoutRectangle MotifGraphPeer::GetMenuPlace() const {

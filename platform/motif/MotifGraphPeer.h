@@ -23,6 +23,7 @@ protected:
     Range RangeOf(Axis axis) override;
     void ScrollTo(Axis axis, int first) override;
     void Paint(cairo_t* context) override;
+    ZOLUnicodeString CutTextAt(const LayoutPoint& place) const override;
     void Pressed(const Mouse& mouse) override;
     void Moved(const Mouse& mouse) override;
     void Released(const Mouse& mouse) override;
@@ -31,7 +32,7 @@ protected:
 
 private:
     const TextMeasure& Measure() const;
-    GraphPicture Picture();
+    GraphPicture Picture() const;
     void MoveViewPoint(LayoutPoint point);
     void Zoom(LayoutPoint place, double factor);
     void ZoomByKey(double factor);

@@ -22,7 +22,6 @@ Widget MotifHolderPeer::Build(Widget parent) {
 }
 
 void MotifHolderPeer::MirrorContent() {
-    const Widget surface = GetSurface();
     const bool isSensitive = GetDialog().IsSensitive();
     const bool turnsGrey = std::exchange(_wasSensitive, isSensitive) != isSensitive;
     for (ZOLDialog* child : GetDialog().GetChildren()) {
@@ -31,6 +30,7 @@ void MotifHolderPeer::MirrorContent() {
         MotifPeer* peer = GetView().FindPeer(*child);
         if (!peer && !GetDialog().ShowsChild(*child))
             continue; // a page nobody has looked at yet
+        const Widget surface = GetSurfaceOf(*child);
         const bool isNew = !peer || !peer->GetWidget() || XtParent(peer->GetWidget()) != surface;
         if (isNew)
             peer = &GetView().MakePeer(*child, surface);

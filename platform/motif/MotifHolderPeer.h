@@ -24,8 +24,10 @@ protected:
     Widget Build(Widget parent) override;
     // The widget in which those that are held stand.
     virtual Widget GetSurface() const { return GetWidget(); }
+    virtual Widget GetSurfaceOf(const ZOLDialog&) const { return GetSurface(); }
     // Places one that is held; `corner` is where the surface begins in the layout.
-    void PlaceChild(const ZOLDialog& child, const DialogLayout& layout, const LayoutRectangle& corner);
+    virtual void PlaceChild(const ZOLDialog& child, const DialogLayout& layout,
+                            const LayoutRectangle& corner);
 
 private:
     bool _wasSensitive = true; // when its content was mirrored last: what is painted in it greys with it

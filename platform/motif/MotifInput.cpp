@@ -1,6 +1,8 @@
 #include "motif/MotifInput.h"
 
+#include "motif/MotifCanvasPeer.h"
 #include "motif/MotifPeer.h"
+#include "motif/MotifScroller.h"
 #include "motif/MotifView.h"
 #include "toolkit/MenuOpening.h"
 #include "toolkit/OpenQuestions.h"
@@ -12,6 +14,7 @@
 #include <Xm/RowColumn.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace trellis {
 
@@ -51,10 +54,18 @@ MotifInput::~MotifInput() {
 }
 
 Boolean MotifInput::Dispatch(XEvent* event) {
-    if (_instance->Takes(*event))
-        return True;
-    const auto type = std::find(types.begin(), types.end(), event->type);
-    return _instance->_native[static_cast<std::size_t>(type - types.begin())](event);
+    return _instance->Takes(*event) ? True : _instance->PassOn(*event);
+}
+
+Boolean MotifInput::PassOn(XEvent& event) {
+    if (event.type >= KeyPress && event.type <= ButtonRelease) {
+        const ZOLDialog* window = WindowOf(event);
+        const long number = window ? window->GetNumber() : 0;
+        if (std::exchange(_lastWindow, number) != number && window)
+            MotifQuirks::RememberInstead(_view.GetApplication(), _native[0]);
+    }
+    const auto type = std::find(types.begin(), types.end(), event.type);
+    return _native[static_cast<std::size_t>(type - types.begin())](&event);
 }
 
 ZOLDialog* MotifInput::WindowOf(const XEvent& event) const {
@@ -84,6 +95,8 @@ bool MotifInput::Takes(XEvent& event) {
     // The native menu would take the release for the next press of that key, which closes it.
     if (event.type == KeyRelease && event.xkey.keycode == _menuKey)
         return _menuKey = 0, true;
+    if (event.type == ButtonPress && _view.IsMenuOpen())
+        MotifQuirks::EndMenuClick(_view.GetApplication());
     if (!window || _view.IsMenuOpen())
         return false;
     if (OpenQuestions::Instance().Blocks(*window)) {
@@ -91,11 +104,23 @@ bool MotifInput::Takes(XEvent& event) {
             _view.RaiseBlocker(*window);
         return true;
     }
+    if (event.type == ButtonPress && TurnsWheel(event.xbutton))
+        return true;
     if (event.type == ButtonPress) {
         _view.NotePress(event.xbutton);
         _view.ActivateWindow(*window);
     }
     return event.type == KeyPress && !IsInMenuBar(event) && TakesKey(event.xkey, *window);
+}
+
+// Lists and graphs scroll by themselves, whether they are at their end or not.
+bool MotifInput::TurnsWheel(const XButtonEvent& event) const {
+    Widget under = XtWindowToWidget(event.display, event.window);
+    ZOLDialog* dialog = nullptr;
+    for (Widget widget = under; widget && !dialog; widget = XtParent(widget))
+        dialog = _view.FindDialog(widget);
+    const bool scrollsItself = dynamic_cast<MotifCanvasPeer*>(dialog ? _view.FindPeer(*dialog) : nullptr);
+    return !scrollsItself && MotifScroller::TurnWheel(under, event.button);
 }
 
 bool MotifInput::TakesKey(XKeyEvent& event, ZOLDialog& window) {

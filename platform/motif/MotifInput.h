@@ -28,11 +28,13 @@ private:
                                                  EnterNotify, LeaveNotify, MotionNotify};
 
     static Boolean Dispatch(XEvent* event);
+    Boolean PassOn(XEvent& event);
     // Whether the event goes no further.
     bool Takes(XEvent& event);
     bool TakesKey(XKeyEvent& event, ZOLDialog& window);
     bool WalksByKey(const XKeyEvent& event, KeySym key, ZOLDialog& window, ZOLDialog& focus);
     bool OpensMenu(ZOLDialog& focus, unsigned keycode);
+    bool TurnsWheel(const XButtonEvent& event) const;
     void WatchToolTip(const XEvent& event, const ZOLDialog* window);
     // The window of ours in whose shell the event happened; null when it was in a menu or an unfolded list.
     ZOLDialog* WindowOf(const XEvent& event) const;
@@ -44,6 +46,7 @@ private:
     std::array<XtEventDispatchProc, types.size()> _native = {};
     static inline MotifInput* _instance = nullptr;
     unsigned _menuKey = 0; // that has opened a menu and is still held
+    long _lastWindow = 0;  // that got a key or a press; 0 after a menu or an unfolded list
 };
 
 } // namespace trellis

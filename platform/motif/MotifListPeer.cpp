@@ -122,6 +122,10 @@ void MotifListPeer::ScrollTo(Axis axis, int first) {
     TellFirstLine();
 }
 
+ZOLUnicodeString MotifListPeer::CutTextAt(const LayoutPoint& place) const {
+    return _painter.CutTextAt(Picture(), place);
+}
+
 ListPicture MotifListPeer::Picture() const {
     const bool isPressed = _drag == Drag::PressesHeader || _drag == Drag::MovesColumn;
     return {_content,      _order,          _columns,

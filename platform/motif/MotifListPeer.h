@@ -30,6 +30,7 @@ protected:
     Range RangeOf(Axis axis) override;
     void ScrollTo(Axis axis, int first) override;
     void Paint(cairo_t* context) override;
+    ZOLUnicodeString CutTextAt(const LayoutPoint& place) const override;
     void Pressed(const Mouse& mouse) override;
     void Moved(const Mouse& mouse) override;
     void Released(const Mouse& mouse) override;

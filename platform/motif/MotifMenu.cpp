@@ -74,8 +74,10 @@ void MotifMenu::PopUp(ZOLDlgMenuPane& menu, const MenuGesture& gesture) {
         MotifQuirks::NoteMenuPress(_application, place);
     XmMenuPosition(_pane, &place);
     XtManageChild(_pane);
-    if (!gesture.press)
-        XmProcessTraversal(_pane, XmTRAVERSE_CURRENT);
+    if (gesture.press)
+        return;
+    MotifQuirks::LetKeysWalkMenus(_application);
+    XmProcessTraversal(_pane, XmTRAVERSE_CURRENT);
 }
 
 void MotifMenu::FillPane(Widget pane, const ZOLDialog& holder) {

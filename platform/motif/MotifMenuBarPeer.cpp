@@ -1,7 +1,6 @@
 #include "motif/MotifMenuBarPeer.h"
 
 #include "motif/MotifView.h"
-#include "toolkit/Mnemonics.h"
 #include "toolkit/ZOLDlgMenuBar.h"
 #include "toolkit/ZOLDlgSubMenu.h"
 
@@ -41,15 +40,12 @@ void MotifMenuBarPeer::MirrorContent() {
         MakeTitles(menus);
     else if (!isSame)
         return;
-    std::vector<ZOLUnicodeString> texts;
-    for (const ZOLDialog* menu : menus)
-        texts.push_back(menu->GetTitle());
-    const std::vector<char> mnemonics = Mnemonics(texts);
     for (std::size_t i = 0; i < menus.size(); ++i) {
         const Title& title = _titles[i];
-        MotifQuirks::SetLabel(title.button, texts[i]);
+        const char mnemonic = GetView().GetMnemonics().Of(*menus[i]);
+        MotifQuirks::SetLabel(title.button, menus[i]->GetTitle());
         MotifQuirks::SetSensitive(title.button, menus[i]->GetSensitivity() == ZOLActive);
-        XtVaSetValues(title.button, XmNmnemonic, static_cast<KeySym>(mnemonics[i]), XmNsubMenuId, title.pane,
+        XtVaSetValues(title.button, XmNmnemonic, static_cast<KeySym>(mnemonic), XmNsubMenuId, title.pane,
                       nullptr);
     }
 }
@@ -72,6 +68,23 @@ Widget MotifMenuBarPeer::FindPane(const ZOLDialog& menu) const {
         if (title.number == menu.GetNumber())
             return title.pane;
     return nullptr;
+}
+
+// The native bar breaks its row in a narrow width, yet never tells how high it would be.
+int MotifMenuBarPeer::FurtherRows(int width) const {
+    Dimension margin = 0;
+    XtVaGetValues(GetWidget(), XmNmarginWidth, &margin, nullptr);
+    int more = 0;
+    int right = margin;
+    for (const Title& title : _titles) {
+        const int wide = MotifQuirks::PlaceOf(title.button).width;
+        if (right > margin && right + wide > width - margin) {
+            ++more;
+            right = margin;
+        }
+        right += wide;
+    }
+    return more;
 }
 
 // The native bar shows the pane that the button has when this returns: none for a menu in which nothing was

@@ -18,6 +18,9 @@ public:
     // The native pane of one of its menus; null when it shows none.
     Widget FindPane(const ZOLDialog& menu) const;
 
+    // How many rows below the first its titles need in that width.
+    int FurtherRows(int width) const;
+
 protected:
     Widget Build(Widget parent) override;
 

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <numbers>
 
 namespace trellis {
@@ -23,6 +24,23 @@ constexpr int gap = 12;
 constexpr int markSize = 32;
 constexpr int textWidth = 440;
 constexpr int mostLines = 20;
+
+// Told apart by shape and sign, not by colour alone: discs, and an octagon for what went wrong.
+struct MessageMark {
+    ThemeColour colour;
+    const char* sign;
+    int corners;
+};
+
+const MessageMark& MarkOf(ZOLDlgNotify::Sign sign) {
+    constexpr int round = 72;
+    static constexpr MessageMark notice = {Theme::HeaderText, "i", round};
+    static constexpr MessageMark question = {Theme::Accent, "?", round};
+    static constexpr MessageMark error = {Theme::Danger, "!", 8};
+    if (sign == ZOLDlgNotify::Sign::Question)
+        return question;
+    return sign == ZOLDlgNotify::Sign::Error ? error : notice;
+}
 
 Arg Argument(const char* name, XtArgVal value) {
     return {MotifQuirks::Name(name), value};
@@ -112,22 +130,24 @@ LayoutSize MotifNotifyPeer::LayOut(LayoutSize size) {
     return needed;
 }
 
-// A question mark in a blue disc, or an "i" in a grey one.
 void MotifNotifyPeer::DrawMark(Widget mark, XEvent*) {
     const LayoutRectangle place = MotifQuirks::PlaceOf(mark);
     const double size = place.width;
+    const MessageMark& look = MarkOf(_notify.GetSign());
     cairo_surface_t* surface = cairo_xlib_surface_create(
         XtDisplay(mark), XtWindow(mark), DefaultVisualOfScreen(XtScreen(mark)), place.width, place.height);
     cairo_t* context = cairo_create(surface);
-    const bool isQuestion = _notify.IsQuestion();
-    CairoShapes::SetColour(context, isQuestion ? Theme::Accent : Theme::HeaderText);
-    cairo_arc(context, size / 2, size / 2, size / 2 - 1, 0, 2 * std::numbers::pi);
+    CairoShapes::SetColour(context, look.colour);
+    for (int corner = 0; corner < look.corners; ++corner) {
+        const double angle = (2 * corner + 1) * std::numbers::pi / look.corners;
+        cairo_line_to(context, size / 2 + (size / 2 - 1) * std::sin(angle),
+                      size / 2 + (size / 2 - 1) * std::cos(angle));
+    }
     cairo_fill(context);
-    const char* sign = isQuestion ? "?" : "i";
     TextPainter text(Theme(GetView().GetTheme().FontFamily(), GetView().GetTheme().FontPoints() * 1.6));
     CairoShapes::SetColour(context, Theme::Field);
-    text.Draw(context, sign, (size - text.Width(sign, TextPainter::Bold)) / 2, (size - text.LineHeight()) / 2,
-              TextPainter::Bold);
+    text.Draw(context, look.sign, (size - text.Width(look.sign, TextPainter::Bold)) / 2,
+              (size - text.LineHeight()) / 2, TextPainter::Bold);
     cairo_destroy(context);
     cairo_surface_destroy(surface);
 }

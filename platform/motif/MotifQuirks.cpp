@@ -3,6 +3,13 @@
 #include "values/ZOLUnicodeString.h"
 
 #include <X11/IntrinsicP.h> // XtConfigureWidget
+#include <Xm/RowColumnP.h>  // what menus remember
+// Behind their macros of the same names stand functions, without casts.
+#undef XtDisplay
+#undef XtWindow
+
+// Exported by the library, in no header of it.
+extern "C" XmMenuState _XmGetMenuState(Widget widget); // NOLINT(bugprone-reserved-identifier)
 
 #include <algorithm>
 #include <bit>
@@ -113,23 +120,38 @@ void MotifQuirks::NoteMenuPress(Widget shell, XButtonEvent press) {
     XtDispatchEventToWidget(shell, &event);
 }
 
+void MotifQuirks::EndMenuClick(Widget application) {
+    _XmGetMenuState(application)->MS_LastManagedMenuTime = 0;
+}
+
+void MotifQuirks::LetKeysWalkMenus(Widget application) {
+    _XmGetMenuState(application)->MU_InDragMode = False;
+}
+
 void MotifQuirks::Redraw(Widget widget) {
     if (const Window window = XtWindow(widget))
         XClearArea(XtDisplay(widget), window, 0, 0, 0, 0, True);
 }
 
 void MotifQuirks::TellApart(XEvent& event) {
-    static Time last = 0;
+    static unsigned long last = 0;
     if (event.type < KeyPress || event.type > ButtonRelease)
         return;
-    Time& time = event.type <= KeyRelease ? event.xkey.time : event.xbutton.time;
-    if (time <= last && last - time < 10)
-        time = last + 1;
-    last = time;
+    event.xany.serial = std::max(event.xany.serial, last + 1);
+    last = event.xany.serial;
 }
 
-void MotifQuirks::LeaveScrollKeys(Widget scrolledWindow) {
-    XtUninstallTranslations(scrolledWindow);
+void MotifQuirks::LeaveScrollKeys(Widget clipWindow) {
+    XtUninstallTranslations(clipWindow);
+}
+
+// No key has the code 0, so nobody answers it.
+void MotifQuirks::RememberInstead(Widget lasting, XtEventDispatchProc nativeKeys) {
+    XEvent event = {};
+    event.xkey.type = KeyPress;
+    event.xkey.display = XtDisplay(lasting);
+    event.xkey.window = XtWindow(lasting);
+    nativeKeys(&event);
 }
 
 void MotifQuirks::SetManaged(Widget widget, bool isManaged) {

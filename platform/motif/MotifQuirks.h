@@ -63,16 +63,26 @@ public:
     // shell. They tell a click, after which the menu stays, from a drag by the time of the press, and look only
     // at presses of the third button on the widget on which the menu was made.
     static void NoteMenuPress(Widget shell, XButtonEvent press);
+    // A menu takes a click that comes soon after it for a part of the one that brought it up, and passes over what
+    // was chosen. Before any press in an open menu: by then the other click is over.
+    static void EndMenuClick(Widget application);
+    // Arrows walk in menus only while no button is held, and a menu that a key brought up is treated as if one were.
+    static void LetKeysWalkMenus(Widget application);
     // Has a widget draw all of it again, behind what is under way.
     static void Redraw(Widget widget);
     // Menus take two events of a button or key that came within one millisecond for one, and pass the second
-    // over: gives it a time of its own. For all events that reach menus, in their order.
+    // over: gives each a serial number of its own. Their times stay: the server refuses the keyboard to whoever asks
+    // for it with a time that has not come yet. For all events that reach menus, in their order.
     static void TellApart(XEvent& event);
     // Manages or unmanages, when it is not so already.
     static void SetManaged(Widget widget, bool isManaged);
-    // A scrolled window takes Home, End, Page Up and Page Down away from whatever in it has the keyboard; lists and
-    // fields want them themselves. Before it is realized.
-    static void LeaveScrollKeys(Widget scrolledWindow);
+    // The native window inside a scrolled one takes Home, End, Page Up and Page Down away from whatever in it has
+    // the keyboard; lists and fields want them themselves. Before it is realized.
+    static void LeaveScrollKeys(Widget clipWindow);
+    // The native dispatch remembers the last widget that got a key or a press by its address, together with what
+    // stands above it. A widget of a new window may get the address of one that went: its keys would be looked
+    // for among windows that are gone. Makes it remember another widget, which has to outlive all windows.
+    static void RememberInstead(Widget lasting, XtEventDispatchProc nativeKeys);
 };
 
 } // namespace trellis

@@ -22,6 +22,9 @@ public:
     // How much of a room is left for a content that needs so much: a scroll bar takes its part of one side when
     // the other is too short.
     LayoutSize RoomBesideBars(LayoutSize room, LayoutSize needed) const;
+    // A step of the wheel over a widget: scrolls what is nearest around it and has room to scroll. False where nothing
+    // does, or the button is none of the wheel's.
+    static bool TurnWheel(Widget under, unsigned button);
 
 private:
     static void ObscuredCB(Widget window, XtPointer, XtPointer callData);

@@ -198,12 +198,14 @@ void MotifShellPeer::Raise() {
         XMapRaised(XtDisplay(GetShell()), XtWindow(GetShell()));
 }
 
-// A window that is not there yet cannot have the keyboard.
+// A window that is not there yet cannot have the keyboard. It takes it with the time of the event that led here: with
+// that of the server, a menu that the same press opens would come too late for the keys.
 void MotifShellPeer::TakeKeyboard() {
     if (_hasManager)
         return;
     if (_isMapped)
-        XSetInputFocus(XtDisplay(GetShell()), XtWindow(GetShell()), RevertToPointerRoot, CurrentTime);
+        XSetInputFocus(XtDisplay(GetShell()), XtWindow(GetShell()), RevertToPointerRoot,
+                       XtLastTimestampProcessed(XtDisplay(GetShell())));
     else
         _wantsKeyboard = true;
 }

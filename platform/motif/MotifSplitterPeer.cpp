@@ -86,12 +86,7 @@ void MotifSplitterPeer::PlaceSash(std::size_t index, int from, const LayoutRecta
         MotifQuirks::Configure(sash, from, 0, sashWidth, place.height);
     else
         MotifQuirks::Configure(sash, 0, from, place.width, sashWidth);
-    if (XtIsManaged(sash))
-        return;
-    XtManageChild(sash);
-    XtRealizeWidget(sash);
-    XDefineCursor(GetView().GetDisplay(), XtWindow(sash),
-                  GetView().GetCursor(IsBeside() ? XC_sb_h_double_arrow : XC_sb_v_double_arrow));
+    MotifQuirks::SetManaged(sash, true);
 }
 
 void MotifSplitterPeer::MakeSash() {
@@ -99,6 +94,7 @@ void MotifSplitterPeer::MakeSash() {
                                    XmNmarginHeight, 0, XmNresizePolicy, XmRESIZE_NONE, XmNtraversalOn, True,
                                    XmNnavigationType, XmTAB_GROUP, nullptr);
     Listen<&MotifSplitterPeer::Grabbed>(sash, ButtonPressMask);
+    Listen<&MotifSplitterPeer::Entered>(sash, EnterWindowMask);
     Listen<&MotifSplitterPeer::Dragged>(sash, Button1MotionMask);
     Listen<&MotifSplitterPeer::KeyPressed>(sash, KeyPressMask);
     Listen<&MotifSplitterPeer::FocusMoved>(sash, FocusChangeMask);
@@ -145,6 +141,12 @@ void MotifSplitterPeer::KeyPressed(Widget sash, XEvent* event) {
     const int step = GetView().GetTheme().Pixels(keyStep);
     _moved[part->GetNumber()] = _taken[part->GetNumber()] + (key == less ? -step : step);
     GetView().Changed(GetDialog());
+}
+
+// Only now: at the first layout the bar has no window yet.
+void MotifSplitterPeer::Entered(Widget sash, XEvent*) {
+    XDefineCursor(GetView().GetDisplay(), XtWindow(sash),
+                  GetView().GetCursor(IsBeside() ? XC_sb_h_double_arrow : XC_sb_v_double_arrow));
 }
 
 void MotifSplitterPeer::FocusMoved(Widget sash, XEvent* event) {

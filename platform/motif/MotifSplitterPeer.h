@@ -34,6 +34,7 @@ private:
     ZOLDialog* PartBefore(Widget sash) const;
     void Grabbed(Widget sash, XEvent* event);
     void KeyPressed(Widget sash, XEvent* event);
+    void Entered(Widget sash, XEvent* event);
     void FocusMoved(Widget sash, XEvent* event);
     void Dragged(Widget sash, XEvent* event);
 

@@ -82,6 +82,22 @@ Theme ChooseTheme(Display* display) {
     return theme;
 }
 
+// A title of a menu that is open, and an item that leads to a further menu, take the colour of what is armed from
+// here; there is no resource for it.
+void ChooseArmedColour() {
+    static XmColorProc computed = nullptr;
+    if (computed)
+        return; // a second view: it would call itself
+    computed =
+        XmSetColorCalculation([](XColor* ground, XColor* text, XColor* armed, XColor* upper, XColor* lower) {
+            const auto part = [](double value) { return static_cast<unsigned short>(value * 65535); };
+            computed(ground, text, armed, upper, lower);
+            armed->red = part(Theme::Selection.Red());
+            armed->green = part(Theme::Selection.Green());
+            armed->blue = part(Theme::Selection.Blue());
+        });
+}
+
 std::string WantedDisplay(int argc, char** argv) {
     for (int i = 1; i + 1 < argc; ++i)
         if (std::string_view(argv[i]) == "-display")
@@ -111,6 +127,7 @@ MotifView* MotifView::Start(int& argc, char** argv, ZOLGYRError& error) {
     }
     DisplayErrors::Watch(display);
     const Theme theme = ChooseTheme(display);
+    ChooseArmedColour();
     Widget application =
         XtVaAppCreateShell(applicationName, applicationClass, applicationShellWidgetClass, display,
                            XtNmappedWhenManaged, False, XtNwidth, 1, XtNheight, 1, nullptr);

@@ -1,10 +1,15 @@
 #include "motif/MotifWindowPeer.h"
 
+#include "motif/MotifMenuBarPeer.h"
 #include "motif/MotifView.h"
 #include "toolkit/DialogLayout.h"
+#include "toolkit/Growth.h"
 #include "toolkit/ZOLDlgDialog.h"
+#include "toolkit/ZOLDlgMenuBar.h"
+#include "toolkit/ZOLWindowEnterNotification.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace trellis {
 
@@ -30,6 +35,7 @@ void MotifWindowPeer::BuildContent(Widget shell) {
     _scroller.emplace(GetView(), "content", _box);
     OpensMenu(_scroller->GetSurface());
     XtVaSetValues(_box, XmNinitialFocus, _scroller->GetWindow(), nullptr);
+    Listen<&MotifWindowPeer::KeyboardMoved>(shell, FocusChangeMask);
     XtManageChild(_scroller->GetWindow());
     XtManageChild(_box);
 }
@@ -43,20 +49,63 @@ void MotifWindowPeer::Mirror() {
         _buttons->Mirror(_asDialog->GetButtons(), _window, _asDialog->GetDefaultButton());
 }
 
+MotifMenuBarPeer* MotifWindowPeer::FindBar() const {
+    const ZOLDlgMenuBar* bar = ZOLDlgMenuBar::Find(_window);
+    return bar ? dynamic_cast<MotifMenuBarPeer*>(GetView().FindPeer(*bar)) : nullptr;
+}
+
+Widget MotifWindowPeer::GetSurfaceOf(const ZOLDialog& child) const {
+    return dynamic_cast<const ZOLDlgMenuBar*>(&child) ? _box : GetSurface();
+}
+
+void MotifWindowPeer::PlaceChild(const ZOLDialog& child, const DialogLayout& layout,
+                                 const LayoutRectangle& corner) {
+    if (!dynamic_cast<const ZOLDlgMenuBar*>(&child))
+        return MotifShellPeer::PlaceChild(child, layout, corner);
+    MotifPeer* peer = GetView().FindPeer(child);
+    if (!peer || !peer->GetWidget())
+        return;
+    peer->Place(_barPlace);
+    peer->SetShown(child.GetVisibility() == ZOLShown);
+}
+
+// The keyboard begins in what a window with a menu bar is there for: what takes most of its room. Elsewhere it begins
+// where the native side puts it: in the first of all.
+void MotifWindowPeer::EnterMainPart() const {
+    if (!FindBar())
+        return;
+    for (const ZOLDialog* child : _window.GetChildren())
+        if (const MotifPeer* peer = GetView().FindPeer(*child);
+            peer && peer->GetFocusWidget() && GrowsHorizontally(*child) && GrowsVertically(*child)) {
+            XmProcessTraversal(peer->GetFocusWidget(), XmTRAVERSE_CURRENT);
+            return;
+        }
+}
+
+// In a narrow window the bar has more rows than in the layout, and the rest less room.
 LayoutSize MotifWindowPeer::LayOut(LayoutSize size) {
     const TextMeasure& measure = GetView().GetTextMeasure();
-    const LayoutSize needed = DialogLayout(_window, measure).GetSize();
+    const DialogLayout natural(_window, measure);
+    const LayoutSize needed = natural.GetSize();
     size = {size.width > 0 ? size.width : needed.width, size.height > 0 ? size.height : needed.height};
-    const DialogLayout layout(_window, measure, _scroller->RoomBesideBars(size, needed));
+    const MotifMenuBarPeer* bar = FindBar();
+    const int usual = bar ? natural.Find(bar->GetDialog())->height : 0;
+    const int upper = usual * (1 + (bar ? bar->FurtherRows(size.width) : 0));
+    _barPlace = {0, 0, size.width, upper};
+
+    const LayoutSize rest = {size.width, size.height - upper};
+    const LayoutSize neededRest = {needed.width, needed.height - usual};
+    const LayoutSize room = _scroller->RoomBesideBars(rest, neededRest);
+    const DialogLayout layout(_window, measure, {room.width, room.height + usual});
     const LayoutSize laid = layout.GetSize();
     const LayoutRectangle row = layout.GetButtonRow();
-    const bool scrolls = needed.height > size.height || needed.width > size.width;
+    const bool scrolls = neededRest.height > rest.height || neededRest.width > rest.width;
     const int footer = _buttons ? laid.height - row.y : 0;
     const int gap = _buttons && scrolls ? row.x : 0; // else what is above ends in room enough
     MotifQuirks::Configure(_box, 0, 0, size.width, size.height);
-    _scroller->Place({0, 0, size.width, std::max(1, size.height - footer - gap)},
-                     {laid.width, laid.height - footer});
-    PlaceContent(layout, {0, 0, laid.width, laid.height});
+    _scroller->Place({0, upper, size.width, std::max(1, rest.height - footer - gap)},
+                     {laid.width, laid.height - usual - footer});
+    PlaceContent(layout, {0, usual, laid.width, laid.height});
     if (_buttons)
         _buttons->Place(_asDialog->GetButtons(), _window,
                         {row.x, size.height - footer, size.width - 2 * row.x, row.height});
@@ -73,6 +122,15 @@ LayoutSize MotifWindowPeer::WithBar(LayoutSize needed) const {
 
 void MotifWindowPeer::Close() {
     _window.UserClose();
+}
+
+void MotifWindowPeer::KeyboardMoved(Widget, XEvent* event) {
+    if (event->type != FocusIn || event->xfocus.detail == NotifyPointer || event->xfocus.mode == NotifyUngrab)
+        return;
+    if (!std::exchange(_hadKeyboard, true))
+        return EnterMainPart();
+    ZOLWindowEnterNotification entered;
+    _window.SendNotification(&_window, &entered);
 }
 
 void MotifWindowPeer::Pressed(Widget button, XtPointer) {

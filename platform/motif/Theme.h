@@ -36,6 +36,7 @@ public:
     static constexpr ThemeColour TopShadow{0xd1d5db};
     static constexpr ThemeColour BottomShadow{0x9ca3af};
     static constexpr ThemeColour Accent{0x2563eb}; // focus, the mark of what is selected
+    static constexpr ThemeColour Danger{0xb91c1c}; // the mark of an error
     static constexpr ThemeColour Selection{0xdbeafe};
     static constexpr ThemeColour GreyedSelection{0xe5e7eb};
 

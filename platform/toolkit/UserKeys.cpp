@@ -6,6 +6,7 @@
 #include "toolkit/ZOLDlgCombo.h"
 #include "toolkit/ZOLDlgDialog.h"
 #include "toolkit/ZOLDlgEditor.h"
+#include "toolkit/ZOLDlgMenuBar.h"
 #include "toolkit/ZOLDlgMenuPane.h"
 #include "toolkit/ZOLDlgMultiList.h"
 #include "toolkit/ZOLDlgNotify.h"
@@ -28,6 +29,13 @@ Widget* As(ZOLDialog& dialog) {
     return dynamic_cast<Widget*>(&dialog);
 }
 
+// The main window of a program: nobody means to leave it by a key that ends menus and dialogs.
+bool HasMenuBar(const ZOLDialog& window) {
+    return std::ranges::any_of(window.GetChildren(), [](const ZOLDialog* child) {
+        return dynamic_cast<const ZOLDlgMenuBar*>(child) && !child->IsBeingDestroyed();
+    });
+}
+
 ZOLUserResult Escape(ZOLDialog& dialog, ZOLUserKey) {
     if (ZOLDlgMenuPane* menu = ZOLDlgMenuPane::GetOpenMenu()) {
         menu->Close();
@@ -37,7 +45,7 @@ ZOLUserResult Escape(ZOLDialog& dialog, ZOLUserKey) {
     if (auto* box = dynamic_cast<ZOLDlgNotify*>(window))
         return box->UserClose();
     auto* closable = dynamic_cast<ZOLDlgWindow*>(window);
-    return closable ? closable->UserClose() : meansNothing;
+    return closable && !HasMenuBar(*closable) ? closable->UserClose() : meansNothing;
 }
 
 ZOLUserResult Return(ZOLDialog& dialog, ZOLUserKey) {

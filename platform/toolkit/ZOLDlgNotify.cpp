@@ -37,6 +37,7 @@ int ZOLDlgNotify::DisplayOver(ZOLDialog* over, const ZOLUnicodeString& text, con
     ZOLDialog* below = registry.Living(over);
     _below = below && below->IsOnScreen() ? below : registry.Top();
     _text = text;
+    _isNotice = isNotice;
     SetTitle(title);
 
     ZOLShownMessage message;
@@ -60,6 +61,12 @@ int ZOLDlgNotify::DisplayOver(ZOLDialog* over, const ZOLUnicodeString& text, con
 
 ZOLDialog* ZOLDlgNotify::GetDialogBelow() const {
     return dynamic_cast<ZOLDialog*>(_below.Get());
+}
+
+ZOLDlgNotify::Sign ZOLDlgNotify::GetSign() const {
+    if (IsQuestion())
+        return Sign::Question;
+    return _isNotice ? Sign::Notice : Sign::Error;
 }
 
 ZOLUserResult ZOLDlgNotify::UserPress(ZOLDialogButton button) {

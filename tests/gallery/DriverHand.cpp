@@ -3,6 +3,7 @@
 #include "gallery/GalleryHand.h"
 
 #include "toolkit/ZOLDialog.h"
+#include "toolkit/ZOLDlgList.h"
 #include "toolkit/ZOLGraphViewer.h"
 
 #include <numeric>
@@ -35,8 +36,12 @@ public:
         else
             Try([&] { Driver::Toggle(&widget, true); });
     }
-    void ClickRow(ZOLDialog& list, int row) override {
-        Try([&] { Driver::Select(&list, {row}); });
+    void ClickRow(ZOLDialog& list, int row, RowTaking taking) override {
+        std::vector<int> rows = taking == RowTaking::Alone ? std::vector<int>() : Selected(list);
+        for (int next = taking == RowTaking::UpTo && !rows.empty() ? rows.back() + 1 : row; next <= row;
+             ++next)
+            rows.push_back(next);
+        Try([&] { Driver::Select(&list, rows); });
     }
     void DoubleClickRow(ZOLDialog& list, int row) override {
         Try([&] { Driver::Activate(&list, row); });
@@ -73,6 +78,7 @@ public:
                                      &Driver::Apply};
         Try([&] { presses[static_cast<int>(button)](&dialog); });
     }
+    void TurnWheel(ZOLDialog&, int) override {}
     void Focus(ZOLDialog&) override {}
     void Type(ZOLDialog& editor, const std::string& text) override {
         Try([&] { Driver::Type(&editor, text); });
@@ -81,7 +87,32 @@ public:
         Try([&] { Driver::Key(&widget, key); });
     }
     void ChooseInGroup(ZOLDialog& radio) override { Press(radio, ZOLUserKey::Space); }
-    void PressFirstItem(ZOLDialog& owner, const std::string& item) override { ClickForMenu(owner, {item}); }
+    void StepDown(ZOLDialog& list, RowTaking taking) override {
+        const std::vector<int> rows = Selected(list);
+        ClickRow(list, rows.empty() ? 0 : rows.back() + 1, taking);
+    }
+    void WalkInMenu(ZOLDialog& owner, const std::vector<std::string>& items) override {
+        ClickForMenu(owner, items);
+    }
+    void WalkInMenuBar(ZOLDialog& bar, const std::vector<std::string>& items) override {
+        ClickMenuBar(bar, items);
+    }
+    void WalkToButton(ZOLDialog& dialog, ZOLDialogButton button) override { ClickButton(dialog, button); }
+    void WhenAsked(std::function<void(ZOLDialog& box)> act) override {
+        Driver::WhenAsked([act = std::move(act)](const Driver::Message&) {
+            act(*Driver::Top());
+            return 0;
+        });
+    }
+    void ForgetQuestions() override { Driver::WhenAsked({}); }
+
+private:
+    static std::vector<int> Selected(ZOLDialog& list) {
+        const int* rows = nullptr;
+        int count = 0;
+        static_cast<ZOLDlgList&>(list).GetSelect(rows, count);
+        return {rows, rows + count};
+    }
 };
 
 } // namespace

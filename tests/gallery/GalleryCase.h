@@ -11,6 +11,7 @@
 struct GalleryCase {
     using Gesture = std::function<void(GalleryHand& hand, ZOLDialog& widget)>;
     using News = std::vector<std::string>; // the values, as the log of the gallery tells them
+    enum class Column { Notification = 0, Value = 3 };
 
     const char* name;
     const char* page;   // of the gallery
@@ -20,6 +21,7 @@ struct GalleryCase {
     Gesture byKeys;
     News newsOfKeys;
     const char* sender = nullptr; // who sends, where that is not the widget
+    Column told = Column::Value;  // what of the news is compared
 
     friend std::ostream& operator<<(std::ostream& out, const GalleryCase& gallery);
 };

@@ -40,7 +40,7 @@ protected:
         GalleryCase::News news;
         for (int row = 0; row < log->GetLineCount(); ++row)
             if (Cell(*log, row, 1) == sender)
-                news.push_back(Cell(*log, row, 3));
+                news.push_back(Cell(*log, row, static_cast<int>(GetParam().told)));
         return news;
     }
     static std::string Cell(const ZOLDlgMultiList& log, int row, int column) {

@@ -2,10 +2,10 @@
 
 #include "gallery/GalleryHand.h"
 
-#include "support/ScreenUser.h"
-#include "toolkit/GraphDrawing.h"
+#include "support/ScreenGestures.h"
 #include "toolkit/TextMeasure.h"
 #include "toolkit/ToolkitView.h"
+#include "toolkit/ZOLDlgMenuPane.h"
 #include "toolkit/ZOLDlgMultiList.h"
 #include "toolkit/ZOLDlgTabContainer.h"
 #include "toolkit/ZOLDlgTabPage.h"
@@ -20,13 +20,22 @@
 
 namespace {
 
+using Driver = ZOLUserDriver;
+
 // One for the program; it has to end before the program does.
 ScreenUser* theUser = nullptr;
+ScreenGestures* theGestures = nullptr;
 
 class Screen : public testing::Environment {
 public:
-    void SetUp() override { theUser = new ScreenUser; }
-    void TearDown() override { delete theUser; }
+    void SetUp() override {
+        theUser = new ScreenUser;
+        theGestures = new ScreenGestures(*theUser);
+    }
+    void TearDown() override {
+        delete theGestures;
+        delete theUser;
+    }
 };
 
 const testing::Environment* const screen = testing::AddGlobalTestEnvironment(new Screen);
@@ -35,30 +44,11 @@ const trellis::TextMeasure& Measure() {
     return trellis::ToolkitView::Current()->GetTextMeasure();
 }
 
-bool IsInside(Widget widget, Widget holder) {
-    while (widget && widget != holder)
-        widget = XtParent(widget);
-    return widget != nullptr;
-}
-
 bool IsSeen(Widget widget) {
     XWindowAttributes attributes;
     return widget && XtIsRealized(widget) &&
            XGetWindowAttributes(XtDisplay(widget), XtWindow(widget), &attributes) &&
            attributes.map_state == IsViewable;
-}
-
-Widget ShellOf(Widget widget) {
-    while (widget && !XtIsShell(widget))
-        widget = XtParent(widget);
-    return widget;
-}
-
-// The application that all windows and menus hang below. It outlives what it is asked for, which a click may end.
-Widget RootOf(Widget widget) {
-    while (XtParent(widget))
-        widget = XtParent(widget);
-    return widget;
 }
 
 ScreenUser::Place RowPlace(ZOLDialog& list, int row) {
@@ -69,19 +59,6 @@ ScreenUser::Place RowPlace(ZOLDialog& list, int row) {
     return theUser->PlaceIn(list, InsideTheFirstColumn, header + row * height + height / 2);
 }
 
-ScreenUser::Place NodePlace(ZOLGraphViewer& viewer, ZOLGraphNode* node) {
-    constexpr int Margin = 8; // around the drawing
-    theUser->Settle();
-    const trellis::GraphDrawing& drawing = viewer.GetDrawing(Measure());
-    const int position = drawing.Position(node);
-    if (position < 0)
-        return theUser->PlaceIn(viewer, -Margin, -Margin);
-    const trellis::LayoutRectangle place = drawing.Nodes()[static_cast<std::size_t>(position)].place;
-    const trellis::LayoutPoint corner = viewer.GetViewPoint(Measure());
-    return theUser->PlaceIn(viewer, Margin + place.x + place.width / 2 - corner.x,
-                            Margin + place.y + place.height / 2 - corner.y);
-}
-
 struct KeyName {
     const char* name;
     ScreenUser::Modifiers modifiers = {};
@@ -89,11 +66,17 @@ struct KeyName {
 
 const KeyName& NameOf(ZOLUserKey key) {
     static const std::map<ZOLUserKey, KeyName> names = {
-        {ZOLUserKey::Return, {"Return"}}, {ZOLUserKey::Space, {"space"}},
-        {ZOLUserKey::Up, {"Up"}},         {ZOLUserKey::Down, {"Down"}},
-        {ZOLUserKey::Left, {"Left"}},     {ZOLUserKey::Right, {"Right"}},
-        {ZOLUserKey::End, {"End"}},       {ZOLUserKey::Tab, {"Tab"}},
-        {ZOLUserKey::Menu, {"Menu"}},     {ZOLUserKey::ShiftSpace, {"space", {"Shift_L"}}},
+        {ZOLUserKey::Return, {"Return"}},
+        {ZOLUserKey::Space, {"space"}},
+        {ZOLUserKey::Up, {"Up"}},
+        {ZOLUserKey::Down, {"Down"}},
+        {ZOLUserKey::Left, {"Left"}},
+        {ZOLUserKey::Right, {"Right"}},
+        {ZOLUserKey::End, {"End"}},
+        {ZOLUserKey::Tab, {"Tab"}},
+        {ZOLUserKey::Menu, {"Menu"}},
+        {ZOLUserKey::Escape, {"Escape"}},
+        {ZOLUserKey::ShiftSpace, {"space", {"Shift_L"}}},
     };
     return names.at(key);
 }
@@ -101,7 +84,9 @@ const KeyName& NameOf(ZOLUserKey key) {
 class ScreenHand final : public GalleryHand {
 public:
     void Click(ZOLDialog& widget) override { theUser->Click(widget); }
-    void ClickRow(ZOLDialog& list, int row) override { theUser->Click(RowPlace(list, row)); }
+    void ClickRow(ZOLDialog& list, int row, RowTaking taking) override {
+        theUser->Click(RowPlace(list, row), 1, HeldFor(taking));
+    }
     void DoubleClickRow(ZOLDialog& list, int row) override { theUser->DoubleClick(RowPlace(list, row)); }
     void ClickLineOfCombo(ZOLDialog& combo, int line) override {
         constexpr int Arrow = 10; // pixels from the right end
@@ -134,38 +119,33 @@ public:
         auto& graph = static_cast<ZOLGraphViewer&>(viewer);
         const ScreenUser::Modifiers modifiers =
             extend ? ScreenUser::Modifiers{"Control_L"} : ScreenUser::Modifiers{};
-        theUser->Click(NodePlace(graph, graph.FindDrawn(path)), 1, modifiers);
+        theUser->Click(theGestures->PlaceOf(graph, graph.FindDrawn(path)), 1, modifiers);
     }
     void ClickForMenu(ZOLDialog& owner, const std::vector<std::string>& items) override {
-        Widget root = RootOf(theUser->NativeOf(owner));
+        Widget root = theGestures->RootOf(owner);
         theUser->Click(owner, 3);
-        ClickItems(root, items);
+        theGestures->ClickItems(root, items);
     }
     void ClickMenuBar(ZOLDialog& bar, const std::vector<std::string>& items) override {
-        ClickItems(theUser->NativeOf(bar), items);
+        theGestures->ClickItems(theUser->NativeOf(bar), items);
     }
     void ClickNodeForMenu(ZOLDialog& viewer, const std::vector<ZOLUnicodeString>& path,
                           const std::string& item) override {
         auto& graph = static_cast<ZOLGraphViewer&>(viewer);
-        Widget root = RootOf(theUser->NativeOf(viewer));
-        theUser->Click(NodePlace(graph, graph.FindDrawn(path)), 3);
-        ClickItems(root, {item});
+        Widget root = theGestures->RootOf(viewer);
+        theUser->Click(theGestures->PlaceOf(graph, graph.FindDrawn(path)), 3);
+        theGestures->ClickItems(root, {item});
     }
     void ClickButton(ZOLDialog& dialog, ZOLDialogButton button) override {
-        constexpr const char* parts[] = {"", "*OK", "*Cancel", "*Help", "*Apply"};
-        theUser->Click(theUser->MiddleOf(theUser->PartOf(dialog, parts[static_cast<int>(button)])));
+        if (button == ZOLDialogButton())
+            theUser->PressCloseBox(dialog);
+        else
+            theUser->Click(theUser->MiddleOf(theGestures->ButtonOf(dialog, button)));
     }
-    // From widget to widget with Tab, until the keyboard is there.
-    void Focus(ZOLDialog& widget) override {
-        constexpr int MostWidgets = 80;
-        Widget native = theUser->NativeOf(widget);
-        for (int step = 0; step < MostWidgets; ++step) {
-            if (IsInside(XmGetFocusWidget(ShellOf(native)), native))
-                return;
-            theUser->Press("Tab");
-        }
-        ADD_FAILURE() << "Tab does not reach " << widget.GetName().ConvertToChar();
+    void TurnWheel(ZOLDialog& widget, int steps) override {
+        theUser->Wheel(theUser->MiddleOf(widget), steps);
     }
+    void Focus(ZOLDialog& widget) override { theGestures->Focus(theUser->NativeOf(widget)); }
     void Type(ZOLDialog&, const std::string& text) override { theUser->Type(text); }
     void Press(ZOLDialog&, ZOLUserKey key) override {
         const KeyName& name = NameOf(key);
@@ -175,20 +155,32 @@ public:
         Focus(*radio.GetOwner());
         Press(radio, ZOLUserKey::Up); // from the first round to the last
     }
-    void PressFirstItem(ZOLDialog& owner, const std::string&) override {
-        Press(owner, ZOLUserKey::Menu);
-        Press(owner, ZOLUserKey::Return);
+    void StepDown(ZOLDialog&, RowTaking taking) override {
+        theUser->Press("Down", HeldFor(taking));
+        if (taking == RowTaking::Too)
+            theUser->Press("space");
     }
+    void WalkInMenu(ZOLDialog& owner, const std::vector<std::string>& items) override {
+        Press(owner, ZOLUserKey::Menu);
+        if (ZOLDlgMenuPane* menu = ZOLDlgMenuPane::GetOpenMenu())
+            theGestures->WalkDown(*menu, items);
+    }
+    void WalkInMenuBar(ZOLDialog& bar, const std::vector<std::string>& items) override {
+        theGestures->WalkInBar(bar, items);
+    }
+    void WalkToButton(ZOLDialog& dialog, ZOLDialogButton button) override {
+        theGestures->WalkToButton(dialog, button);
+    }
+    void WhenAsked(std::function<void(ZOLDialog& box)> act) override {
+        theUser->WhenItIs([before = Driver::Top()] { return Driver::Top() != before; },
+                          [act = std::move(act)] { act(*Driver::Top()); });
+    }
+    void ForgetQuestions() override { theUser->Forget(); }
 
 private:
-    static void ClickItems(Widget root, const std::vector<std::string>& items) {
-        for (const std::string& name : items) {
-            Widget item = XtNameToWidget(root, ("*" + name).c_str());
-            if (!IsSeen(item))
-                return;
-            theUser->PauseBetweenClicks();
-            theUser->Click(theUser->MiddleOf(item));
-        }
+    static const ScreenUser::Modifiers& HeldFor(RowTaking taking) {
+        static const ScreenUser::Modifiers held[] = {{}, {"Shift_L"}, {"Control_L"}};
+        return held[static_cast<int>(taking)];
     }
 };
 

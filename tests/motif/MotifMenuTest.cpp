@@ -62,7 +62,6 @@ protected:
         _user->Click(place, 3);
         corner = place;
         ASSERT_TRUE(menu->IsOpen()) << "a click leaves the menu on the screen";
-        LetClickTimePass();
         panel->heard.clear();
     }
     // What the user does next is no part of the click.
@@ -137,6 +136,16 @@ TEST_F(MotifMenuTest, TheMenuKeysOpenItWithTheFirstItemReady) {
         EXPECT_EQ(panel->heard, (Heard{"Menu", "Open"}));
         EXPECT_FALSE(menu->IsOpen());
     }
+}
+
+TEST_F(MotifMenuTest, KeysWalkAMenuThatAKeyHasOpened) {
+    _user->Click(*list);
+    _user->Press("Menu");
+    ASSERT_TRUE(menu->IsOpen());
+    panel->heard.clear();
+    for (const char* key : {"Down", "Right", "Down", "Return"})
+        _user->Press(key);
+    EXPECT_EQ(panel->heard, Heard{"Move"});
 }
 
 TEST_F(MotifMenuTest, AGreyedItemTakesNoClickAndASubMenuOpensByMouse) {

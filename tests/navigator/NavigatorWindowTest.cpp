@@ -3,6 +3,7 @@
 #include "model/ZOLDMClipboard.h"
 #include "service/ZOLQRDCfgManager.h"
 #include "site/ZOLIQrdSCManager.h"
+#include "toolkit/ZOLWindowEnterNotification.h"
 
 namespace {
 
@@ -29,9 +30,23 @@ TEST_F(NavigatorWindowTest, APartIsMadeConfigurableFromItsMenuAndShowsIt) {
     EXPECT_TRUE(TakeCodes().empty());
     EXPECT_NE(Node({"BIKE Bike [configurable]"}), nullptr);
     EXPECT_EQ(Stored("configurable_part"), 1);
+    EXPECT_TRUE(Sees("BIKE Bike: now configurable")) << Driver::Describe(_window);
     Call({"BIKE Bike [configurable]"}, "Part/SetConfigurable");
     EXPECT_EQ(TakeCodes(), std::vector<int>{20267});
     EXPECT_TRUE(Sees("This object is configurable already")) << Driver::Describe(_window);
+}
+
+TEST_F(NavigatorWindowTest, WhatAPanelChangedShowsWhenTheUserComesBack) {
+    ZOLGYRError error;
+    ZOLQRDCfgManager& manager = *ZOLQRDCfgManager::CurrentCfgManager(error);
+    manager.SetConfigurable(Node({"BIKE Bike"})->Part(), error);
+    ZOLWindowEnterNotification back;
+    _window->SendNotification(_window, &back);
+    ASSERT_NE(Node({"BIKE Bike [configurable]"}), nullptr);
+    EXPECT_FALSE(Sees("unsaved changes: 0")) << Driver::Describe(_window);
+    manager.Save(error);
+    _window->SendNotification(_window, &back);
+    EXPECT_TRUE(Sees("unsaved changes: 0")) << Driver::Describe(_window);
 }
 
 TEST_F(NavigatorWindowTest, WhatNeedsOnePartIsGreyedForSeveral) {

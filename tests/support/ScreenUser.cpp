@@ -217,6 +217,21 @@ void ScreenUser::Wheel(Place place, int steps, const Modifiers& modifiers) {
     Settle();
 }
 
+void ScreenUser::PressCloseBox(ZOLDialog& window) {
+    Widget shell = NativeOf(window);
+    if (!shell)
+        return;
+    XEvent event = {};
+    event.xclient.type = ClientMessage;
+    event.xclient.window = XtWindow(shell);
+    event.xclient.message_type = XInternAtom(_hand, "WM_PROTOCOLS", False);
+    event.xclient.format = 32;
+    event.xclient.data.l[0] = static_cast<long>(XInternAtom(_hand, "WM_DELETE_WINDOW", False));
+    XSendEvent(_hand, event.xclient.window, False, NoEventMask, &event);
+    XSync(_hand, False);
+    Settle();
+}
+
 void ScreenUser::Press(const std::string& key, const Modifiers& modifiers) {
     SendKeys(modifiers, true);
     SendKey(key, true);

@@ -65,6 +65,9 @@ public:
     // Steps of the wheel, downwards when above 0.
     void Wheel(Place place, int steps, const Modifiers& modifiers = {});
 
+    // What a window manager does when its close box is clicked.
+    void PressCloseBox(ZOLDialog& window);
+
     // A key of the server's keyboard by its name, such as "Return" or "a".
     void Press(const std::string& key, const Modifiers& modifiers = {});
     // Key by key. ASCII alone; a line feed is Return.
@@ -80,6 +83,8 @@ public:
     // limit; the question that waits then is closed.
     void WhenItIs(Condition isSo, std::function<void()> act,
                   std::source_location where = std::source_location::current());
+    // Drops what is laid ready and was not done.
+    void Forget() { _deeds.clear(); }
 
 private:
     using Clock = std::chrono::steady_clock;

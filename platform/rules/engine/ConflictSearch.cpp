@@ -21,21 +21,26 @@ bool Meets(const ConflictSearch::Literals& literals, const std::set<Literal>& ot
 
 } // namespace
 
+// Of literals that cannot stand together those that the solver needed to see it; all, where it sees no conflict.
 ConflictSearch::Literals ConflictSearch::Failed(const Literals& literals) const {
+    SolverLink& solver = _deduction.Solver();
+    if (solver.IsSatisfiable(literals))
+        return literals;
     Literals failed;
     std::copy_if(literals.begin(), literals.end(), std::back_inserter(failed),
-                 [&](Literal literal) { return _solver.HasFailed(literal); });
+                 [&](Literal literal) { return solver.HasFailed(literal); });
     return failed;
 }
 
-// What the solver names as failed only saves questions: a literal outside of it can go without asking.
+// That literals can stand together is found near the last model, in far less time than by the solver, which is quick
+// to see that they cannot. What failed there only saves questions: a literal outside of it can go without asking.
 ConflictSearch::Literals ConflictSearch::Conflict(const Literals& given) {
     Literals rest = given;
-    Literals failed = CanStand(given) ? given : Failed(given);
+    Literals failed = Failed(given);
     for (Literal literal : given) {
         const Literals without = Without(rest, {literal});
-        if (std::find(failed.begin(), failed.end(), literal) != failed.end()) {
-            if (CanStand(without))
+        if (std::binary_search(failed.begin(), failed.end(), literal)) {
+            if (_deduction.CanStand(without))
                 continue;
             failed = Failed(without);
         }
@@ -76,7 +81,7 @@ void ConflictSearch::Extend(std::set<Literal>& givenUp, std::size_t size) {
         return;
     if (!OpenConflict(givenUp)) {
         const Literals rest = Without(_given, givenUp);
-        if (CanStand(rest)) {
+        if (_deduction.CanStand(rest)) {
             _found.push_back(givenUp);
             return;
         }

@@ -32,7 +32,7 @@ void Deduction::Open() {
 }
 
 std::optional<std::vector<RuleLiteral>> Deduction::Forced(std::span<const Literal> given) {
-    if (!Assume(given))
+    if (!CanStand(given))
         return std::nullopt;
     DecideUncovered(given);
     std::vector<char> isGiven(_store.OptionCount());
@@ -45,10 +45,10 @@ std::optional<std::vector<RuleLiteral>> Deduction::Forced(std::span<const Litera
     return forced;
 }
 
-// Keeps the levels under which all assumptions are given again, and adds one for each other literal.
-bool Deduction::Assume(std::span<const Literal> given) {
+// Keeps the levels under which all assumptions are given again, and adds one for each literal that does not follow.
+bool Deduction::CanStand(std::span<const Literal> given) {
     const auto isGiven = [&](Literal literal) {
-        return std::find(given.begin(), given.end(), literal) != given.end();
+        return std::binary_search(given.begin(), given.end(), literal);
     };
     const auto firstGone = std::find_if_not(_assumed.begin(), _assumed.end(), isGiven);
     _assumed.erase(firstGone, _assumed.end());
@@ -57,7 +57,7 @@ bool Deduction::Assume(std::span<const Literal> given) {
     const std::size_t pinnedBefore = _trail.Pinned().size();
     bool isConsistent = true;
     for (Literal literal : given) {
-        if (!isConsistent || std::find(_assumed.begin(), _assumed.end(), literal) != _assumed.end())
+        if (!isConsistent || _trail.IsTrue(literal))
             continue;
         _assumed.push_back(literal);
         isConsistent = _trail.PushLevel(literal) == UnitTrail::Outcome::Settled;

@@ -4,7 +4,6 @@
 #include "rules/engine/SolverLink.h"
 #include "rules/engine/WitnessPool.h"
 
-#include <memory>
 #include <optional>
 #include <span>
 #include <vector>
@@ -21,9 +20,11 @@ public:
     const RuleSetting& Setting() const { return _setting; }
     bool IsContradictory() const { return _isContradictory; }
     // The forced literals in the order of options, without those given; nothing where the given ones cannot stand
-    // together. Not for contradictory rules.
+    // together. `given`: sorted. Not for contradictory rules.
     std::optional<std::vector<RuleLiteral>> Forced(std::span<const Literal> given);
-    // Whether the literals can stand together; for the question of which do not.
+    // Whether the literals can stand together. `given`: sorted. Not for contradictory rules.
+    bool CanStand(std::span<const Literal> given);
+    // Holds all that binds, for other questions than these.
     SolverLink& Solver() { return _solver; }
 
 private:
@@ -33,7 +34,6 @@ private:
     static constexpr int MostPatience = 256;
 
     void Open();
-    bool Assume(std::span<const Literal> given);
     bool MoveModel(std::span<const Literal> given, std::size_t pinnedBefore);
     std::optional<std::vector<int>> SolvedFlips(std::span<const Literal> assumptions);
     void RecheckWitnesses(std::span<const int> moved, std::size_t pinnedBefore);

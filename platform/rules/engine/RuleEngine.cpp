@@ -73,7 +73,7 @@ RuleAnswer RuleEngine::Answer(const RuleSetting& setting, const std::vector<Lite
         return answer;
     auto forced = deduction.Forced(given);
     if (!forced) {
-        answer.conflict = RuleLiteralsOf(ConflictSearch(deduction.Solver()).Conflict(given));
+        answer.conflict = RuleLiteralsOf(ConflictSearch(deduction).Conflict(given));
         return answer;
     }
     answer.forced = std::move(*forced);
@@ -120,7 +120,7 @@ std::vector<std::vector<RuleLiteral>> RuleEngine::Repairs(const RuleQuestion& qu
     if (Play(question).conflict.empty())
         return repairs;
     Deduction& deduction = DeductionOf(RuleSetting(question, _clauses));
-    for (const auto& repair : ConflictSearch(deduction.Solver()).Repairs(GivenOf(question), limit))
+    for (const auto& repair : ConflictSearch(deduction).Repairs(GivenOf(question), limit))
         repairs.push_back(RuleLiteralsOf(repair));
     return repairs;
 }

@@ -27,7 +27,7 @@ struct RuleFault {
     static constexpr int ForeignWord = 60765;     // what was written, what to write
     static constexpr int NotInRow = 60766;        // the word
     static constexpr int ColumnTwice = 60767;     // the category
-    static constexpr int NoElse = 60768;          // the words if, not, then
+    static constexpr int NoElse = 60768;          // the words if and not
     static constexpr int RightBehindName = 60769; // what stands there
 
     int number = 0;

@@ -247,8 +247,7 @@ bool RuleParser::FailKnownMistake() {
     else if (BeginsRoundMark(word))
         Fail(RuleFault::RoundMarks);
     else if (word == "else")
-        Fail(RuleFault::NoElse,
-             {_words.Text(RuleWord::If), _words.Text(RuleWord::Not), _words.Text(RuleWord::Then)});
+        Fail(RuleFault::NoElse, {_words.Text(RuleWord::If), _words.Text(RuleWord::Not)});
     if (IsFaulty())
         return true;
     const bool followsName =

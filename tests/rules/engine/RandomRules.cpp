@@ -78,8 +78,10 @@ RuleQuestion RandomRules::NextQuestion(const RuleModel& model, RuleQuestion last
     toggle(last.areDirectivesOn, 4);
     toggle(last.arePackagesOn, 4);
     toggle(last.areMatricesOn, 4);
-    if (Happens(6))
-        last.exclusivity = {{Below(static_cast<int>(model.categories.size())), Happens(50)}};
+    if (Happens(4))
+        last.exclusivity.clear();
+    for (int percent = 6; Happens(percent); percent = 50) // of two for the same category the last one wins
+        last.exclusivity.emplace_back(Below(static_cast<int>(model.categories.size())), Happens(50));
     if (!last.given.empty() && Happens(35))
         last.given.erase(last.given.begin() + Below(static_cast<int>(last.given.size())));
     for (int count = 1 + Below(2); count > 0; --count)

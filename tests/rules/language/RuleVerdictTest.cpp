@@ -55,7 +55,7 @@ TEST(RuleVerdictTest, TypicalMistakesOfDirectiveRules) {
         {R"("A" => "B")", R"~(At character 1: expected "if", found "A".)~"},
         {R"(if "A" => "B")", R"~(At character 8: instead of "=>" write "then".)~"},
         {R"(if "A" then "B" else "C")",
-         R"~(At character 17: a rule has no "else"; write a second rule for the other case: if (not ...) then ...)~"},
+         R"~(At character 17: a rule has no "else"; write a second rule for the other case, with "not" behind "if".)~"},
         {R"(if "A" then "B" then "C")",
          R"~(At character 17: expected "and", "or" or the end of the rule, found "then".)~"},
         {R"(if "A" then "B")"

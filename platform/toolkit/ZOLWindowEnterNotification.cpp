@@ -1,0 +1,3 @@
+#include "toolkit/ZOLWindowEnterNotification.h"
+
+ZOLWindowEnterNotification::~ZOLWindowEnterNotification() = default;
