@@ -39,13 +39,13 @@ public:
     // The arcs that are drawn between two drawn nodes, also those to a child that hangs elsewhere.
     std::vector<ZOLGraphArc*> Arcs() const;
 
-    // Distances inside a node, in pixels: around its text with and without decoration, the gap behind a pixmap,
-    // which is as high and wide as a line, and the gap before the sign.
+    // Distances inside a node, in pixels: around its text with and without decoration, the gap behind a pixmap or
+    // the mark that stands in its place, as high and wide as a line, and the gap before the sign.
     static constexpr int Frame = 4;
     static constexpr int Bare = 1;
     static constexpr int IconGap = 4;
     static constexpr int SignGap = 6;
-    // The room that one node takes: frame, pixmap, the lines of the text, and behind them a gap and one character
+    // The room that one node takes: frame, pixmap or mark, the lines of the text, and behind them a gap and one character
     // for the sign of the colour.
     static LayoutSize NodeSize(const ZOLGraphNode& node, const TextMeasure& measure);
 

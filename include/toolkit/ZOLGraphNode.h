@@ -1,5 +1,6 @@
 #pragma once
 
+#include "toolkit/NodeMark.h"
 #include "toolkit/ZOLGraphElem.h"
 #include "toolkit/ZOLNodeSelectNotification.h"
 
@@ -54,6 +55,12 @@ public:
     void setCurrent(int on);
     int getCurrent() const { return _isCurrent ? 1 : 0; }
 
+    // What the node says of a choice; nothing at first. A marked node without a pixmap has its mark before the text,
+    // one with a pixmap behind it. A shadow adds nothing to the look of a marked node.
+    void setMark(trellis::NodeMark mark, trellis::NodeAlert alert = trellis::NodeAlert::None);
+    trellis::NodeMark getMark() const { return _mark; }
+    trellis::NodeAlert getAlert() const { return _alert; }
+
     // Walking the children: the first, then one after the other until null. A node that is destroyed during
     // the walk does not disturb it; two walks over the children of one node at a time do.
     ZOLGraphNode* firstChild();
@@ -83,6 +90,8 @@ private:
     bool _isShadowIn = false;
     bool _hasDecoration = true;
     bool _isCurrent = false;
+    trellis::NodeMark _mark = trellis::NodeMark::None;
+    trellis::NodeAlert _alert = trellis::NodeAlert::None;
     std::list<ZOLGraphArc*> _childArcs;
     std::list<ZOLGraphArc*> _parentArcs;
     std::list<ZOLGraphArc*>::iterator _nextChildArc;

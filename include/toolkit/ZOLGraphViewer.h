@@ -6,6 +6,7 @@
 #include "toolkit/ZOLNavigation2DViewer.h"
 #include "toolkit/ZOLNodeContextNotification.h"
 #include "toolkit/ZOLNodeExtSelectNotification.h"
+#include "toolkit/ZOLNodePointNotification.h"
 
 #include <memory>
 #include <vector>
@@ -21,7 +22,8 @@ enum class GraphStep { Left, Right, Up, Down };
 //
 // Each gesture sends one notification, as the viewer and to the viewer itself, so that it climbs to the
 // fathers when the viewer does not take it: the selected node's own select notification; the extended select,
-// context and background ones of the viewer. A refused gesture sends nothing.
+// context and background ones of the viewer. A refused gesture sends nothing. Pointing is no gesture: it changes
+// nothing, so that a greyed viewer and a mere display tell of it, too.
 class TRELLIS_API ZOLGraphViewer : public ZOLNavigation2DViewer {
     ZOL_META_OBJECT(ZOLGraphViewer, ZOLNavigation2DViewer)
 public:
@@ -66,12 +68,17 @@ public:
     ZOLUserResult UserContextNode(ZOLGraphNode* node);
     ZOLUserResult UserClickBackground();
     ZOLUserResult UserContextBackground();
+    // The pointer comes to a node, or to none of them (null); or the keyboard does. Sent when the node is another than
+    // before: one that is pointed at twice is told once.
+    ZOLUserResult UserPointAt(ZOLGraphNode* node);
+    // The node of the last such notification; null when it is gone, or was none.
+    ZOLGraphNode* GetPointedNode() const;
 
     // The keyboard. One node has the focus: the one that the user acted on last, else the first root.
     // NotThere when there is nothing to go to, or nothing to open or close.
     ZOLGraphNode* GetFocusNode() const;
     // Along the depth of the tree to the parent or the first child, across it to the neighbour of the same
-    // depth; in an outline up and down go row by row.
+    // depth; in an outline up and down go row by row. Points at what it comes to.
     ZOLUserResult UserMoveFocus(trellis::GraphStep step);
     // Space and Shift with Space: click and context on the focus.
     ZOLUserResult UserClickFocus();
@@ -107,11 +114,14 @@ private:
     std::unique_ptr<ZOLGraph> _graph;
     bool _takesGestures = true;
     trellis::WeakCommand _focus;
+    trellis::WeakCommand _pointed;
+    bool _hasPointed = false;             // a node was told last, though it may be gone
     trellis::LayoutRectangle _focusPlace; // when somebody looked or the user acted last
     trellis::WeakCommand _toCentre;       // asked for, not done yet
     trellis::WeakCommand _toReveal;       // the same for a node that shall only come into sight
     ZOLNodeExtSelectNotification _extSelectNotification;
     ZOLNodeContextNotification _contextNotification;
+    ZOLNodePointNotification _pointNotification;
     ZOLGraphSelectNotification _graphSelectNotification;
     ZOLGraphContextNotification _graphContextNotification;
 };

@@ -103,6 +103,8 @@ public:
     // A null node is the background.
     static void Click(ZOLGraphViewer* viewer, ZOLGraphNode* node, bool extend = false);
     static void ContextClick(ZOLGraphViewer* viewer, ZOLGraphNode* node);
+    // Moves the pointer there without a click; null: away from all nodes. Leaves no editor.
+    static void PointAt(ZOLGraphViewer* viewer, ZOLGraphNode* node);
 
     // The buttons of a dialog or message box, and the close box of any window.
     static void Ok(ZOLDialog* dialog);

@@ -1,6 +1,7 @@
 #include "motif/GraphNodePainter.h"
 
 #include "motif/CairoShapes.h"
+#include "motif/GraphMarkPainter.h"
 #include "toolkit/GraphDrawing.h"
 #include "toolkit/ZOLGraphNode.h"
 
@@ -21,10 +22,52 @@ bool HasSign(const GraphColour& colour) {
     return *colour.sign != '\0';
 }
 
+bool IsMarked(const ZOLGraphNode& node) {
+    return node.getMark() != NodeMark::None;
+}
+
+// The pressed form of a node without mark.
+bool IsPressed(const ZOLGraphNode& node) {
+    return node.isShadowIn() && !IsMarked(node);
+}
+
+// The palette's index whose sign says what an alert or the mark of a group says; 0 for none.
+int SignColourOf(NodeAlert alert) {
+    constexpr int colours[] = {0, 2, 4};
+    return colours[static_cast<std::size_t>(alert)];
+}
+
+int SignColourOf(NodeMark mark) {
+    switch (mark) {
+    case NodeMark::Decided:
+        return 46;
+    case NodeMark::Missing:
+        return 7;
+    case NodeMark::Ignored:
+        return 66;
+    default:
+        return 0;
+    }
+}
+
+// The colour of the strip at the right end, whose sign may be empty.
+const GraphColour& StripOf(const ZOLGraphNode& node) {
+    constexpr int plain = 1;
+    constexpr int found = 112; // by a search, which no mark tells
+    if (!IsMarked(node) || (node.getColor() == found && node.getAlert() == NodeAlert::None))
+        return GraphPalette::At(node.getColor());
+    if (const int alert = SignColourOf(node.getAlert()))
+        return GraphPalette::At(alert);
+    const int mark = node.HasPixmap() ? SignColourOf(node.getMark()) : 0;
+    return GraphPalette::At(mark ? mark : plain);
+}
+
 // Behind a text a colour that means a state is lighter, so that the text reads well on each of them.
 ThemeColour Body(const ZOLGraphNode& node) {
     const GraphColour& colour = GraphPalette::At(node.getColor());
     const ThemeColour body = HasSign(colour) ? Saturated(colour).Mixed(White, 0.6) : Saturated(colour);
+    if (IsMarked(node))
+        return node.getHighlight() ? body.Mixed(Theme::Selection, 0.8) : body;
     return node.isShadowIn() ? body.Mixed(ThemeColour{0}, 0.1) : body;
 }
 
@@ -67,13 +110,22 @@ void GraphNodePainter::Paint(cairo_t* context, const ZOLGraphNode& node, const L
                              Detail detail) {
     if (node.getDecorationVisibility())
         PaintBody(context, node, place, detail);
-    if (HasSign(GraphPalette::At(node.getColor())))
-        PaintSign(context, node, place, detail);
+    if (const GraphColour& strip = StripOf(node); HasSign(strip))
+        PaintSign(context, node, place, strip, detail);
     if (detail == WithoutText)
         return;
-    if (const LayoutRectangle icon = IconPlace(node, place); icon.width > 0)
-        _icons.Draw(context, PixmapBaseName(node.getPixmap()), icon.x, icon.y, icon.width);
+    PaintLead(context, node, place);
     PaintText(context, node, place);
+}
+
+void GraphNodePainter::PaintLead(cairo_t* context, const ZOLGraphNode& node, const LayoutRectangle& place) {
+    const LayoutRectangle lead = LeadPlace(node, place);
+    const int inset = lead.width / 10;
+    if (node.HasPixmap())
+        _icons.Draw(context, PixmapBaseName(node.getPixmap()), lead.x, lead.y, lead.width);
+    else
+        GraphMarkPainter::Draw(context, node.getMark(), lead.x + inset, lead.y + inset,
+                               lead.width - 2 * inset);
 }
 
 void GraphNodePainter::PaintBody(cairo_t* context, const ZOLGraphNode& node, const LayoutRectangle& place,
@@ -83,13 +135,14 @@ void GraphNodePainter::PaintBody(cairo_t* context, const ZOLGraphNode& node, con
         CairoShapes::Fill(context, place, body.Mixed(Theme::Text, node.getHighlight() ? 0.5 : 0.1));
         return;
     }
-    if (!node.isShadowIn())
+    const bool isIgnored = node.getMark() == NodeMark::Ignored;
+    if (!node.isShadowIn() && !isIgnored)
         PaintDropShadow(context, place);
     PathOf(context, place);
     CairoShapes::SetColour(context, body);
     cairo_fill(context);
     const bool isHighlighted = node.getHighlight() != 0;
-    if (node.isShadowIn())
+    if (IsPressed(node))
         PaintInnerShadow(context, place, isHighlighted ? 2 : 1);
     const double inset = isHighlighted ? 1 : 0.5;
     CairoShapes::RoundRectangle(context, place.x + inset, place.y + inset, place.width - 2 * inset,
@@ -98,7 +151,10 @@ void GraphNodePainter::PaintBody(cairo_t* context, const ZOLGraphNode& node, con
         context,
         isHighlighted ? Theme::Text : Saturated(GraphPalette::At(node.getColor())).Mixed(Theme::Text, 0.35));
     cairo_set_line_width(context, 2 * inset);
+    constexpr double dashes[] = {4, 3};
+    cairo_set_dash(context, dashes, isIgnored ? 2 : 0, 0);
     cairo_stroke(context);
+    cairo_set_dash(context, nullptr, 0, 0);
     if (!node.getCurrent())
         return;
     cairo_save(context);
@@ -109,8 +165,7 @@ void GraphNodePainter::PaintBody(cairo_t* context, const ZOLGraphNode& node, con
 }
 
 void GraphNodePainter::PaintSign(cairo_t* context, const ZOLGraphNode& node, const LayoutRectangle& place,
-                                 Detail detail) {
-    const GraphColour& colour = GraphPalette::At(node.getColor());
+                                 const GraphColour& colour, Detail detail) {
     const ThemeColour full = Saturated(colour);
     const int width = _text.CharacterWidth() + BorderOf(node) + 1;
     const int inset = !node.getDecorationVisibility() ? 0 : node.getHighlight() ? 2 : 1;
@@ -133,22 +188,30 @@ void GraphNodePainter::PaintSign(cairo_t* context, const ZOLGraphNode& node, con
 void GraphNodePainter::PaintText(cairo_t* context, const ZOLGraphNode& node, const LayoutRectangle& place) {
     const std::string_view text = node.getText().Bytes();
     const int border = BorderOf(node);
-    const int x =
-        place.x + LeftOf(node) + (node.HasPixmap() ? _text.LineHeight() + GraphDrawing::IconGap : 0);
+    const bool hasLead = node.HasPixmap() || IsMarked(node);
+    const int x = place.x + LeftOf(node) + (hasLead ? _text.LineHeight() + GraphDrawing::IconGap : 0);
     int y = place.y + border;
-    CairoShapes::SetColour(context, Theme::Text);
+    const bool isOut = node.getMark() == NodeMark::RejectedByRule;
+    CairoShapes::SetColour(context,
+                           isOut || node.getMark() == NodeMark::Ignored ? Theme::HeaderText : Theme::Text);
     for (std::size_t begin = 0, end = 0; end != std::string_view::npos; begin = end + 1) {
         end = text.find('\n', begin);
-        _text.Draw(context, text.substr(begin, end - begin), x, y);
+        const std::string_view line = text.substr(begin, end - begin);
+        _text.Draw(context, line, x, y);
+        if (isOut) {
+            cairo_rectangle(context, x, y + _text.LineHeight() / 2, _text.Width(line), 1);
+            cairo_fill(context);
+        }
         y += _text.LineHeight();
     }
 }
 
+LayoutRectangle GraphNodePainter::LeadPlace(const ZOLGraphNode& node, const LayoutRectangle& place) const {
+    return {place.x + LeftOf(node), place.y + BorderOf(node), _text.LineHeight(), _text.LineHeight()};
+}
+
 LayoutRectangle GraphNodePainter::IconPlace(const ZOLGraphNode& node, const LayoutRectangle& place) const {
-    if (!node.HasPixmap())
-        return {};
-    const int border = BorderOf(node);
-    return {place.x + LeftOf(node), place.y + border, _text.LineHeight(), _text.LineHeight()};
+    return node.HasPixmap() ? LeadPlace(node, place) : LayoutRectangle{};
 }
 
 } // namespace trellis

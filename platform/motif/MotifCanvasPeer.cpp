@@ -51,6 +51,7 @@ Widget MotifCanvasPeer::Build(Widget parent) {
     Listen<&MotifCanvasPeer::FrameExposed>(outer, ExposureMask);
     Listen<&MotifCanvasPeer::Happened>(_canvas, ExposureMask | FocusChangeMask | ButtonPressMask |
                                                     ButtonReleaseMask | ButtonMotionMask | KeyPressMask);
+    AsksForCrossings(_canvas);
     return outer;
 }
 
@@ -66,11 +67,16 @@ void MotifCanvasPeer::Place(const LayoutRectangle& place) {
     Refresh();
 }
 
-ZOLUnicodeString MotifCanvasPeer::GetHiddenText(const LayoutPoint& place) const {
+std::optional<LayoutPoint> MotifCanvasPeer::InCanvas(const LayoutPoint& place) const {
     const LayoutPoint inside = {place.x - Border, place.y - Border};
     const bool isInside =
         inside.x >= 0 && inside.y >= 0 && inside.x < _canvasSize.width && inside.y < _canvasSize.height;
-    return isInside ? CutTextAt(inside) : ZOLUnicodeString();
+    return isInside ? std::optional(inside) : std::nullopt;
+}
+
+ZOLUnicodeString MotifCanvasPeer::GetHiddenText(const LayoutPoint& place) const {
+    const std::optional<LayoutPoint> inside = InCanvas(place);
+    return inside ? CutTextAt(*inside) : ZOLUnicodeString();
 }
 
 void MotifCanvasPeer::Refresh() {
@@ -163,6 +169,7 @@ void MotifCanvasPeer::Happened(Widget, XEvent* event) {
             return; // the window has the keyboard, and the pointer happens to be here
         _hasKeyboard = event->type == FocusIn;
         Repaint();
+        KeyboardMoved();
         return;
     case ButtonPress:
         ButtonPressed(event->xbutton);

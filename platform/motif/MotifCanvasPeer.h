@@ -4,6 +4,7 @@
 #include "motif/TextPainter.h"
 #include "toolkit/TreeLayout.h"
 
+#include <optional>
 #include <string>
 
 namespace trellis {
@@ -63,10 +64,14 @@ protected:
     virtual void Typed(const Key& key) = 0;
     // Steps of the wheel with Ctrl, upwards; by itself it scrolls.
     virtual void WheeledWithControl(const Mouse&, int) {}
+    // The keyboard comes to the canvas or leaves it.
+    virtual void KeyboardMoved() {}
 
     // Computes, places and paints all anew.
     void Refresh();
     void Repaint();
+    // A place of the widget as one of the canvas; nothing on the frame and the bars.
+    std::optional<LayoutPoint> InCanvas(const LayoutPoint& place) const;
     bool HasKeyboard() const { return _hasKeyboard; }
     LayoutSize CanvasSize() const { return _canvasSize; }
     Widget Canvas() const { return _canvas; }

@@ -122,6 +122,23 @@ LayoutRectangle MotifGraphPeer::GetMenuPlace() const {
     return {std::clamp(x, 0, CanvasSize().width), std::clamp(y, 0, CanvasSize().height), 1, 1};
 }
 
+void MotifGraphPeer::PointerAt(const LayoutPoint& place) {
+    const std::optional<LayoutPoint> inside = InCanvas(place);
+    _hasPointer = inside.has_value();
+    _viewer.UserPointAt(inside ? _viewer.GetDrawing(Measure()).NodeAt(_frame.ToDrawing(*inside)) : nullptr);
+}
+
+void MotifGraphPeer::PointerLeft() {
+    _hasPointer = false;
+    _viewer.UserPointAt(nullptr);
+}
+
+// Who comes by key looks at the node with the focus; who clicks, at what is under the pointer.
+void MotifGraphPeer::KeyboardMoved() {
+    if (!_hasPointer)
+        _viewer.UserPointAt(HasKeyboard() ? _viewer.GetFocusNode() : nullptr);
+}
+
 void MotifGraphPeer::Pressed(const Mouse& mouse) {
     if (ZOLGraphNode* node = _painter.HitAt(Picture(), mouse.place).node; node && mouse.button != Button2)
         PressedNode(mouse, node);

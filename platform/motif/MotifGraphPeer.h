@@ -16,6 +16,8 @@ class MotifGraphPeer : public MotifCanvasPeer {
 public:
     MotifGraphPeer(MotifView& view, ZOLGraphViewer& viewer);
     LayoutRectangle GetMenuPlace() const override;
+    void PointerAt(const LayoutPoint& place) override;
+    void PointerLeft() override;
 
 protected:
     LayoutSize ContentSize() override;
@@ -29,6 +31,7 @@ protected:
     void Released(const Mouse& mouse) override;
     void Typed(const Key& key) override;
     void WheeledWithControl(const Mouse& mouse, int steps) override;
+    void KeyboardMoved() override;
 
 private:
     const TextMeasure& Measure() const;
@@ -43,6 +46,7 @@ private:
     ZOLGraphViewer& _viewer;
     GraphPainter _painter;
     GraphFrame _frame;
+    bool _hasPointer = false;
     bool _isDragging = false;
     LayoutPoint _dragStart;     // pixel
     LayoutPoint _dragViewPoint; // at the start

@@ -88,10 +88,11 @@ bool MotifInput::Takes(XEvent& event) {
     ZOLDialog* window = WindowOf(event);
     MotifQuirks::TellApart(event);
     WatchToolTip(event, window);
-    if (event.type == MotionNotify)
-        return false;
-    if (event.type == EnterNotify || event.type == LeaveNotify)
-        return window && _view.IsAsking();
+    if (event.type == MotionNotify || event.type == EnterNotify || event.type == LeaveNotify) {
+        const bool isTaken = event.type != MotionNotify && window && _view.IsAsking();
+        WatchPointer(event);
+        return isTaken;
+    }
     // The native menu would take the release for the next press of that key, which closes it.
     if (event.type == KeyRelease && event.xkey.keycode == _menuKey)
         return _menuKey = 0, true;
@@ -116,9 +117,7 @@ bool MotifInput::Takes(XEvent& event) {
 // Lists and graphs scroll by themselves, whether they are at their end or not.
 bool MotifInput::TurnsWheel(const XButtonEvent& event) const {
     Widget under = XtWindowToWidget(event.display, event.window);
-    ZOLDialog* dialog = nullptr;
-    for (Widget widget = under; widget && !dialog; widget = XtParent(widget))
-        dialog = _view.FindDialog(widget);
+    const ZOLDialog* dialog = DialogAround(under);
     const bool scrollsItself = dynamic_cast<MotifCanvasPeer*>(dialog ? _view.FindPeer(*dialog) : nullptr);
     return !scrollsItself && MotifScroller::TurnWheel(under, event.button);
 }
@@ -162,6 +161,35 @@ void MotifInput::WatchToolTip(const XEvent& event, const ZOLDialog* window) {
         _view.GetToolTip().PointerMoved(*window, {event.xmotion.x_root, event.xmotion.y_root});
     else
         _view.GetToolTip().PointerMoved(*window, {event.xcrossing.x_root, event.xcrossing.y_root});
+}
+
+const ZOLDialog* MotifInput::DialogAround(Widget widget) const {
+    const ZOLDialog* dialog = nullptr;
+    for (; widget && !dialog; widget = XtParent(widget))
+        dialog = _view.FindDialog(widget);
+    return dialog;
+}
+
+// What is greyed gets no events, but can be looked at. Who is told may end any window, so this comes last.
+void MotifInput::WatchPointer(const XEvent& event) {
+    const bool isDrag = event.type == MotionNotify && event.xmotion.state >> 8 != 0;
+    if (isDrag || _view.IsMenuOpen())
+        return;
+    Widget under =
+        event.type == LeaveNotify ? nullptr : XtWindowToWidget(event.xany.display, event.xany.window);
+    const ZOLDialog* dialog = DialogAround(under);
+    const long now = dialog ? dialog->GetNumber() : 0;
+    if (const long before = std::exchange(_underPointer, now); before != now)
+        if (MotifPeer* peer = MotifPeer::Find(before))
+            peer->PointerLeft();
+    MotifPeer* peer = MotifPeer::Find(now);
+    if (!peer || !peer->GetWidget())
+        return;
+    const LayoutPoint root = event.type == MotionNotify
+                                 ? LayoutPoint{event.xmotion.x_root, event.xmotion.y_root}
+                                 : LayoutPoint{event.xcrossing.x_root, event.xcrossing.y_root};
+    const LayoutPoint corner = MotifQuirks::RootPlaceOf(peer->GetWidget());
+    peer->PointerAt({root.x - corner.x, root.y - corner.y});
 }
 
 bool MotifInput::OpensMenu(ZOLDialog& focus, unsigned keycode) {

@@ -36,6 +36,9 @@ private:
     bool OpensMenu(ZOLDialog& focus, unsigned keycode);
     bool TurnsWheel(const XButtonEvent& event) const;
     void WatchToolTip(const XEvent& event, const ZOLDialog* window);
+    void WatchPointer(const XEvent& event);
+    // The innermost dialog that shows a widget, perhaps as a part; null for a null widget.
+    const ZOLDialog* DialogAround(Widget widget) const;
     // The window of ours in whose shell the event happened; null when it was in a menu or an unfolded list.
     ZOLDialog* WindowOf(const XEvent& event) const;
     // The dialog that has the keyboard in the shell of a window, else the window.
@@ -45,8 +48,9 @@ private:
     const MotifFocus _focus;
     std::array<XtEventDispatchProc, types.size()> _native = {};
     static inline MotifInput* _instance = nullptr;
-    unsigned _menuKey = 0; // that has opened a menu and is still held
-    long _lastWindow = 0;  // that got a key or a press; 0 after a menu or an unfolded list
+    unsigned _menuKey = 0;  // that has opened a menu and is still held
+    long _underPointer = 0; // the dialog that was told so last
+    long _lastWindow = 0;   // that got a key or a press; 0 after a menu or an unfolded list
 };
 
 } // namespace trellis

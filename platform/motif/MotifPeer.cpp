@@ -42,6 +42,10 @@ void MotifPeer::Create(Widget parent) {
     XtAddCallback(_widget, MotifQuirks::Name(XmNdestroyCallback), &MotifPeer::WidgetGoneCB, GetKey());
 }
 
+void MotifPeer::AsksForCrossings(Widget widget) {
+    XtAddEventHandler(widget, EnterWindowMask | LeaveWindowMask, False, &MotifPeer::IgnoreCB, nullptr);
+}
+
 // A holder that goes takes the widgets in it along, before or after their peers. A later peer of the same
 // dialog has another widget.
 void MotifPeer::WidgetGoneCB(Widget widget, XtPointer key, XtPointer) {

@@ -55,6 +55,9 @@ public:
     virtual void CollectStops(std::vector<Widget>& stops) const;
     // The whole text of what stands at a place of the widget but does not fit; empty for none.
     virtual ZOLUnicodeString GetHiddenText(const LayoutPoint& place) const;
+    // The pointer comes or moves to a place of the widget, greyed or not, with no button pressed; it goes elsewhere.
+    virtual void PointerAt(const LayoutPoint&) {}
+    virtual void PointerLeft() {}
     // Where a contextual menu opened by key appears, in pixels of the widget.
     virtual LayoutRectangle GetMenuPlace() const;
 
@@ -82,6 +85,8 @@ protected:
     void Listen(Widget widget, EventMask mask) {
         XtAddEventHandler(widget, mask, False, &HandlePeer<Method>, GetKey());
     }
+    // Lets the server tell when the pointer enters or leaves that widget; motions it tells of all.
+    static void AsksForCrossings(Widget widget);
     // The third mouse button on that widget opens the contextual menu of the dialog, or of its nearest owner
     // with one.
     void OpensMenu(Widget widget);

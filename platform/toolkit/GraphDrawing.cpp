@@ -119,7 +119,8 @@ LayoutSize GraphDrawing::NodeSize(const ZOLGraphNode& node, const TextMeasure& m
         width = std::max(width, measure.GetTextWidth(text.substr(begin, end - begin)));
     }
     const int border = node.getDecorationVisibility() ? Frame : Bare;
-    const int icon = node.HasPixmap() ? measure.GetLineHeight() + IconGap : 0;
+    const bool hasIcon = node.HasPixmap() || node.getMark() != NodeMark::None;
+    const int icon = hasIcon ? measure.GetLineHeight() + IconGap : 0;
     // The sign has its room always, so that a change of colour moves nothing.
     return {icon + width + SignGap + measure.GetCharacterWidth() + 2 * border,
             lines * measure.GetLineHeight() + 2 * border};

@@ -51,6 +51,8 @@ int ZOLGraphElem::getColor() const {
 }
 
 void ZOLGraphElem::setColor(int index) {
+    if (_color == index)
+        return;
     _color = index;
     MarkChanged(Change::Look);
 }
@@ -60,6 +62,8 @@ int ZOLGraphElem::getHighlight() const {
 }
 
 void ZOLGraphElem::setHighlight(int on) {
+    if (_isHighlighted == (on != 0))
+        return;
     _isHighlighted = on != 0;
     MarkChanged(Change::Look);
 }

@@ -4,6 +4,9 @@
 #include "toolkit/ZOLGraph.h"
 #include "toolkit/ZOLGraphArc.h"
 
+using trellis::NodeAlert;
+using trellis::NodeMark;
+
 namespace {
 
 constexpr int PlainColour = 1;
@@ -65,6 +68,10 @@ ZOLUnicodeString ZOLGraphNode::toCompose() const {
     const ZOLGraphArc* arc = firstArcParent();
     if (arc && arc->isVisible() && !arc->IsPlain())
         text += " (" + arc->toCompose().Bytes() + ')';
+    if (_mark != NodeMark::None)
+        text += std::string(": ") + trellis::WordsFor(_mark);
+    if (_alert != NodeAlert::None)
+        text += std::string(", ") + trellis::WordsFor(_alert);
     return text;
 }
 
@@ -105,6 +112,13 @@ void ZOLGraphNode::setDecorationVisibility(int on) {
 void ZOLGraphNode::setCurrent(int on) {
     _isCurrent = on != 0;
     MarkChanged(Change::Look);
+}
+
+void ZOLGraphNode::setMark(NodeMark mark, NodeAlert alert) {
+    const bool isRoomOther = (mark == NodeMark::None) != (_mark == NodeMark::None);
+    _mark = mark;
+    _alert = alert;
+    MarkChanged(isRoomOther ? Change::Room : Change::Look);
 }
 
 ZOLGraphNode* ZOLGraphNode::firstChild() {

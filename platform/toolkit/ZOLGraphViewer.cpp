@@ -210,6 +210,30 @@ ZOLUserResult ZOLGraphViewer::UserContextBackground() {
     return ZOLUserResult::Done;
 }
 
+ZOLUserResult ZOLGraphViewer::UserPointAt(ZOLGraphNode* node) {
+    const ZOLUserResult gate = UserGate();
+    if (gate != ZOLUserResult::Done && gate != ZOLUserResult::Insensitive)
+        return gate;
+    if (node && node->graph() != _graph.get())
+        return ZOLUserResult::NotThere;
+    if (node && _graph->GetDrawing().Position(node) < 0)
+        return ZOLUserResult::Hidden;
+    const bool isOther = node ? node != _pointed.Get() : _hasPointed;
+    if (!isOther)
+        return ZOLUserResult::Done;
+    const trellis::CallbackScope scope;
+    _pointed = trellis::WeakCommand(node);
+    _hasPointed = node != nullptr;
+    Send(_pointNotification, node);
+    _pointNotification.SetNode(nullptr);
+    return ZOLUserResult::Done;
+}
+
+ZOLGraphNode* ZOLGraphViewer::GetPointedNode() const {
+    ZOLGraphNode* node = AsNode(_pointed);
+    return node && node->graph() == _graph.get() ? node : nullptr;
+}
+
 const char* ZOLGraphViewer::GetKind() const {
     return "graph";
 }

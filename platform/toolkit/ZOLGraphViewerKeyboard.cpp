@@ -101,7 +101,7 @@ ZOLUserResult ZOLGraphViewer::UserMoveFocus(GraphStep step) {
     if (!target)
         return ZOLUserResult::NotThere;
     reveal(target);
-    return ZOLUserResult::Done;
+    return UserPointAt(target);
 }
 
 ZOLUserResult ZOLGraphViewer::UserExtendFocus() {

@@ -83,6 +83,12 @@ void ZOLUserDriver::ContextClick(ZOLGraphViewer* viewer, ZOLGraphNode* node) {
     });
 }
 
+void ZOLUserDriver::PointAt(ZOLGraphViewer* viewer, ZOLGraphNode* node) {
+    DriverVerb("point into", viewer).KeepEditor().On<ZOLGraphViewer>([node](ZOLGraphViewer& target) {
+        return target.UserPointAt(node);
+    });
+}
+
 namespace {
 
 // Presses a button of the dialog or message box that holds `inside`.

@@ -1,0 +1,3 @@
+#include "toolkit/ZOLNodePointNotification.h"
+
+ZOLNodePointNotification::~ZOLNodePointNotification() = default;
