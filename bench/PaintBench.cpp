@@ -104,6 +104,19 @@ BENCHMARK(RedrawGraph)
     ->Args({0, 10, 40})
     ->Unit(benchmark::kMillisecond);
 
+// Arguments: outline or columns. One motion of the pointer, each to another node.
+void PointAtGraph(benchmark::State& state) {
+    LargeGraph large(state.range(0) != 0);
+    const GraphDrawing& drawing = large.graph.GetDrawing(large.measure);
+    std::size_t i = 0;
+    for (auto step : state) {
+        i = (i + 7919) % drawing.Nodes().size();
+        const LayoutRectangle& place = drawing.Nodes()[i].place;
+        benchmark::DoNotOptimize(drawing.NodeAt({place.x + 1, place.y + 1}));
+    }
+}
+BENCHMARK(PointAtGraph)->Arg(0)->Arg(1);
+
 void LayOutGraph(benchmark::State& state) {
     LargeGraph large(false);
     for (auto step : state)

@@ -5,6 +5,7 @@
 #include "cli/RuleReasonForms.h"
 #include "cli/SelectionReport.h"
 #include "service/OptionQuery.h"
+#include "session/KeptSelection.h"
 #include "session/MessageOutput.h"
 
 #include <iostream>
@@ -15,11 +16,14 @@ namespace trellis {
 namespace {
 
 constexpr int NoStructure = 60633;
+constexpr int NoSuchOption = 60749;
 
 struct Arguments {
     std::string product;
     std::vector<std::string> selected;
     std::vector<std::string> rejected;
+    std::string selection; // file to begin with
+    std::string keep;      // file to write
     std::string why;
     bool repairs = false;
     bool bom = false;
@@ -30,6 +34,8 @@ struct Arguments {
 class Choices {
 public:
     Choices(const ZOLIQrdConfigItem_var& dictionary, const Arguments& arguments) : _dictionary(dictionary) {
+        if (!arguments.selection.empty())
+            Open(arguments.selection);
         for (const std::string& word : arguments.selected)
             Take(word, false, given);
         for (const std::string& word : arguments.rejected)
@@ -41,8 +47,24 @@ public:
     std::vector<ZOLParameter> given;
     std::vector<ZOLParameter> asked;
     std::vector<ZOLGYRError> problems;
+    ZOLListValZOLUnicodeString ignoredCategories; // means nothing to the rules, and is kept
 
 private:
+    void Open(const std::string& file) {
+        ZOLGYRError error;
+        auto kept = KeptSelection::Read(file, error);
+        if (!kept) {
+            problems.push_back(error);
+            return;
+        }
+        for (const ZOLParameter& unknown : kept->TakeOutUnknown({_dictionary})) {
+            error.Set(NoSuchOption, 0, {unknown.GetOption()});
+            problems.push_back(error);
+        }
+        given = kept->choices;
+        ignoredCategories = kept->ignoredCategories;
+    }
+
     void Take(const std::string& word, bool isNot, std::vector<ZOLParameter>& list) {
         ZOLGYRError error;
         const auto option = OptionQuery::ByWord(_dictionary, word, error);
@@ -97,6 +119,13 @@ ExitCode Configure(HostSession& session, const Arguments& arguments) {
         MessageOutput::Print(choices.problems);
         return ExitCode::WrongUse;
     }
+    if (!arguments.keep.empty()) {
+        const KeptSelection kept = {arguments.product, choices.given, choices.ignoredCategories};
+        if (!kept.Write(arguments.keep, error)) {
+            MessageOutput::Print(error);
+            return ExitCode::EnvironmentFailed;
+        }
+    }
     RuleSelection selection(product.dictionary, choices.given);
     (session.Options().json ? PrintJson : PrintText)(product, selection, choices, arguments);
     return selection.HasConflict() ? ExitCode::FoundProblem : ExitCode::Fine;
@@ -116,6 +145,12 @@ void DeclareConfigureCommand(CLI::App& program, Job& job) {
     command.add_option("--select", arguments->selected, "options to choose: OPTION or CATEGORY.OPTION")
         ->type_name("OPTION");
     command.add_option("--reject", arguments->rejected, "options to reject")->type_name("OPTION");
+    command
+        .add_option("--selection", arguments->selection,
+                    "file of a selection that was kept; --select and --reject add to it")
+        ->type_name("FILE");
+    command.add_option("--keep", arguments->keep, "file in which all that is chosen and rejected is kept")
+        ->type_name("FILE");
     command.add_option("--why", arguments->why, "why this option is in its state")->type_name("OPTION");
     command.add_flag("--repairs", arguments->repairs, "what can be given up, where choices are in conflict");
     CLI::Option* bom = command.add_flag("--bom", arguments->bom, "the parts that the selection needs, too");

@@ -146,6 +146,8 @@ std::vector<ScriptVerb> DriverVerbs() {
          [](const Words& w, std::ostream&) { Driver::Click(Graph(w[0]), NodeOf(w), true); }},
         {"context-click", "PATH NODE...", 1, many,
          [](const Words& w, std::ostream&) { Driver::ContextClick(Graph(w[0]), NodeOf(w)); }},
+        {"point", "PATH NODE...", 1, many,
+         [](const Words& w, std::ostream&) { Driver::PointAt(Graph(w[0]), NodeOf(w)); }},
         {"ok", "", 0, 0, [](const Words&, std::ostream&) { Driver::Ok(Dialog(".")); }},
         {"apply", "", 0, 0, [](const Words&, std::ostream&) { Driver::Apply(Dialog(".")); }},
         {"cancel", "", 0, 0, [](const Words&, std::ostream&) { Driver::Cancel(Dialog(".")); }},

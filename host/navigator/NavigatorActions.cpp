@@ -1,10 +1,12 @@
+#include "configure/ConfigureWindow.h"
 #include "model/PartQuery.h"
 #include "navigator/NavigatorMenus.h"
 #include "navigator/NavigatorWindow.h"
-#include "navigator/PictureDialog.h"
 #include "navigator/RenameDialog.h"
 #include "navigator/WindowMemory.h"
 #include "service/ConfigurablePartQuery.h"
+#include "service/ZOLQRDCfgManager.h"
+#include "session/FileDialog.h"
 #include "session/StructureTree.h"
 #include "toolkit/GraphExport.h"
 #include "toolkit/ZOLDlgPushItem.h"
@@ -22,6 +24,7 @@ namespace trellis {
 namespace {
 
 constexpr int NotFound = 60606;
+constexpr int NoDictionary = 20297;
 constexpr int FirstButton = 1;
 
 // What parts are as configurable ones; empty for plain parts.
@@ -50,6 +53,7 @@ const std::vector<NavigatorWindow::Action>& NavigatorWindow::Actions() {
         {"CloseBranchItem", &This::CloseBranch, &This::HasChoice},
         {"RefreshItem", &This::ReadAgain, nullptr},
         {"SavePictureItem", &This::SavePicture, nullptr},
+        {"ConfigureItem", &This::Configure, &This::HasChoice},
         {"ContentsItem", &This::ShowHelp, nullptr},
     };
     return actions;
@@ -174,7 +178,7 @@ void NavigatorWindow::ReadAgain() {
 
 void NavigatorWindow::SavePicture() {
     ZOLUnicodeString path;
-    auto* dialog = new PictureDialog(this);
+    auto* dialog = new FileDialog(this, "SavePicture", "NavigatorPicture", "structure.svg");
     const bool isNamed = dialog->Ask(path);
     dialog->RequestDelayedDestruction();
     std::error_code none;
@@ -184,6 +188,24 @@ void NavigatorWindow::SavePicture() {
     ZOLGYRError error;
     if (GraphExport::Save(*_graph->GetGraph(), path, GraphExport::FormatOf(path), error))
         Note(Text("PictureSaved.Msg", {path}));
+    Report(error);
+}
+
+// Opens on what was chosen; every part of it must have a dictionary.
+void NavigatorWindow::Configure() {
+    ZOLGYRError error;
+    const ZOLQRDCfgManager* manager = ZOLQRDCfgManager::CurrentCfgManager(error);
+    ZOLListValZOLDMInstance products;
+    for (const ZOLDMInstance& part : _graph->Chosen()) {
+        ZOLQRDConfigurableObject object;
+        if (error.GetCode() == 0)
+            manager->GetConfigurableObject(part, object, error);
+        if (error.GetCode() == 0 && object.GetDictionary() == NULL_var)
+            error.Set(NoDictionary, 0, {part.GetNameInstance(1, 1, " ", "$BOM_NAVIG")});
+        products.Append(part);
+    }
+    if (error.GetCode() == 0 && _session.Module())
+        ConfigureWindow::Open(this, products, error);
     Report(error);
 }
 

@@ -6,7 +6,8 @@ const std::vector<NavigatorMenu>& NavigatorMenu::Operations() {
     static const std::vector<NavigatorMenu> menus = {
         {"Part", {"SetConfigurable", "UnSetConfigurable", "AvailableTypes", "", "PartCfgAnalysis", "Usage"}},
         {"Dictionary",
-         {"OpenCategoryManager", "OpenRuleManager", "", "ImportDictionary", "DeleteDictionary"}},
+         {"ConfigureItem", "", "OpenCategoryManager", "OpenRuleManager", "", "ImportDictionary",
+          "DeleteDictionary"}},
         {"Milestones",
          {"OpenMilestoneManagerDate", "OpenMilestoneManagerRange", "", "DeleteMilestonesDate",
           "DeleteMilestonesRange"}},

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "navigator/LinkGestures.h"
+#include "navigator/NavigatorResultPanel.h"
 #include "navigator/UnsavedWork.h"
 #include "session/HostSession.h"
 #include "session/ModuleOperation.h"
@@ -67,6 +68,7 @@ private:
     void CloseBranch() { _graph->CloseChosen(); }
     void ReadAgain();
     void SavePicture();
+    void Configure();
     void ShowHelp();
     bool HasUnsaved() const { return _work.CountUnsaved() > 0; }
     bool HasChanges() const { return !_work.IsEmpty(); }
@@ -83,6 +85,7 @@ private:
     ZOLUnicodeString Text(const std::string& key, const ZOLListValZOLUnicodeString& parameters = {}) const;
 
     HostSession& _session;
+    NavigatorResultPanel _resultPanel;
     StructureEdit _edit;
     UnsavedWork _work;
     StructureGraph* _graph;

@@ -1,4 +1,4 @@
-#include "navigator/PictureDialog.h"
+#include "session/FileDialog.h"
 
 #include "toolkit/ZOLDlgEditor.h"
 #include "toolkit/ZOLDlgFrame.h"
@@ -23,22 +23,24 @@ fs::path Home() {
 
 } // namespace
 
-PictureDialog::PictureDialog(ZOLDialog* father) : ZOLDlgDialog(father, "SavePicture", OkCancelAndModal) {
+FileDialog::FileDialog(ZOLDialog* father, const char* name, const char* resourceFile,
+                       const std::string& proposed)
+    : ZOLDlgDialog(father, name, OkCancelAndModal), _resourceFile(resourceFile) {
     auto* frame = new ZOLDlgFrame(this, "PathFrame", 0x80000);
     frame->SetDefaultOrientation(1);
     new ZOLDlgLabel(frame, "PathLabel");
     _path = new ZOLDlgEditor(frame, "PathEd");
     _path->SetVisibleTextWidth(PathWidth);
     _path->SetHorizontalAttachment(1);
-    _path->SetText((Home() / "structure.svg").string());
+    _path->SetText((Home() / proposed).string());
     new ZOLDlgLabel(this, "FormLabel");
 }
 
-ZOLString PictureDialog::GetResourceFilename(int level) const {
-    return level == 0 ? "NavigatorPicture" : ZOLDlgDialog::GetResourceFilename(level - 1);
+ZOLString FileDialog::GetResourceFilename(int level) const {
+    return level == 0 ? _resourceFile : ZOLDlgDialog::GetResourceFilename(level - 1);
 }
 
-bool PictureDialog::Ask(ZOLUnicodeString& path) {
+bool FileDialog::Ask(ZOLUnicodeString& path) {
     if (DisplayBlocked() != 1)
         return false;
     ZOLUnicodeString typed = _path->GetText();

@@ -1,25 +1,13 @@
 #include "service/StoredEffectivity.h"
 
 #include "service/DictionaryRights.h"
+#include "service/EffectivityTerm.h"
 #include "service/ItemEditor.h"
 #include "values/FailureTrace.h"
 
 #include <algorithm>
 
 namespace trellis {
-
-namespace {
-
-ZOLQRDTime DayOf(const std::string& text) {
-    ZOLGYRError noDate;
-    return text.empty() ? ZOLQRDTime() : ZOLQRDTime(ZOLUnicodeString(text), noDate);
-}
-
-int Number(std::int64_t value) {
-    return static_cast<int>(value);
-}
-
-} // namespace
 
 StoredEffectivity::StoredEffectivity(std::weak_ptr<ConfigurationMemory> memory,
                                      RecordOf<EffectivityRow> record, RecordOf<ConfigItemRow> item)
@@ -80,27 +68,12 @@ void StoredEffectivity::SetPackOptions(const ZOLListValZOLUnicodeString& options
         SetPackOptionRows(*memory, *content, Record()->Id(), options, error);
 }
 
-ZOLQRDCfgEffectivity StoredEffectivity::TermOf(const EffectivityRow& row) const {
-    const int first = Number(row.first);
-    const int last = Number(row.last);
-    const ZOLQRDTime start = DayOf(row.startDate);
-    const ZOLQRDTime end = DayOf(row.endDate);
-    if (!ZOLQRDCfgEffectivityType::IsPackKind(row.type))
-        return {row.type, ZOLUnicodeString(row.optionName), first, last, start, end};
-    ZOLListValZOLUnicodeString options;
-    GetPackOptions(options);
-    return {row.type, options, first, last, start, end};
-}
-
 ZOLQRDCfgEffectivity StoredEffectivity::GetTerm() const {
     const EffectivityRow& row = Row();
-    ZOLQRDCfgEffectivity term = TermOf(row);
-    term.SetCategory(row.categoryName);
-    term.SetDescription(row.description);
-    if (row.used == 0)
-        term.UnsetUsed();
-    term.SetMilestoneStart(row.startProgram, row.startMilestone, Number(row.startOffset));
-    term.SetMilestoneEnd(row.endProgram, row.endMilestone, Number(row.endOffset));
+    ZOLListValZOLUnicodeString options;
+    if (ZOLQRDCfgEffectivityType::IsPackKind(row.type))
+        GetPackOptions(options);
+    ZOLQRDCfgEffectivity term = TermOfRow(row, options);
 
     FailureTrace trace("ZOLIQrdEffectivity::GetTerm");
     const std::shared_ptr<ConfigurationMemory> memory = Memory();

@@ -30,8 +30,6 @@ public:
     ZOLQRDCfgEffectivity GetTerm() const override;
 
 private:
-    // Type, names and limits.
-    ZOLQRDCfgEffectivity TermOf(const EffectivityRow& row) const;
     bool MayChange(ConfigurationMemory& memory, ZOLGYRError& error) const override;
 
     RecordOf<ConfigItemRow> _item;

@@ -35,6 +35,8 @@ void ZOLCategoryGraphViewer::BuildGraph(const ZOLListValZOLQRDCfgEffectivity& te
         PlayRules();
     else if (_current.Size() > 0)
         UpdateWithParameters();
+    else
+        TellShown();
     SetInitialSelection(_current, _ignored);
     SaveCurrentParameters();
     UpdateLayout();
@@ -79,22 +81,23 @@ void ZOLCategoryGraphViewer::AddCategoryNode(ZOLCategoryNode* node) {
 }
 
 void ZOLCategoryGraphViewer::ChooseTerms(const ZOLListValZOLQRDCfgEffectivity& terms) {
-    ZOLListValZOLUnicodeString untold; // categories of which no term tells, in advanced mode
-    if (_isAdvanced)
-        for (const ZOLCategoryNode* node : _nodes)
-            if (!node->GetMandatory())
-                untold.Append(node->GetCategoryName());
+    std::unordered_set<ZOLUnicodeString> told;
     for (const ZOLQRDCfgEffectivity& term : terms) {
         const ZOLCategoryNode* node = NodeWithOption(term.GetOptionName());
         const ZOLUnicodeString category = node ? node->GetCategoryName() : ZOLUnicodeString();
-        untold.RemoveValue(category);
-        if (term.IsIgnored() && node) {
-            _ignored.Append(category);
+        told.insert(category);
+        if (term.IsIgnored()) {
+            // One of a category that is not shown must not turn into a choice.
+            if (node)
+                _ignored.Append(category);
         } else if (!term.IsUndefined()) {
             _current.Append(ParameterOf(term, category, node).release());
         }
     }
-    _ignored.Append(untold);
+    for (const ZOLCategoryNode* node : _nodes)
+        if (_isAdvanced && !node->GetMandatory() && !told.contains(node->GetCategoryName()))
+            _ignored.Append(node->GetCategoryName());
+    _ignored.RemoveDuplicates(); // there is a term for every option of a category
 }
 
 void ZOLCategoryGraphViewer::ChooseDefaults() {
@@ -146,6 +149,7 @@ void ZOLCategoryGraphViewer::ClearAll(const int ignore) {
     UpdateRootNodeColor(0);
     ZOLDeleteElements(_current);
     SaveCurrentParameters();
+    TellShown();
 }
 
 void ZOLCategoryGraphViewer::ClearRuleDefined() {
@@ -153,6 +157,7 @@ void ZOLCategoryGraphViewer::ClearRuleDefined() {
         node->ClearRuleDefined();
     UpdateRootNodeColor(0);
     RemoveRuleDefinedFromCurrent();
+    TellShown();
 }
 
 void ZOLCategoryGraphViewer::ResetAll() {

@@ -59,10 +59,8 @@ void ZOLCategoryGraphViewer::ClickOption(ZOLOptionNode& option, int isNot) {
     parameter->SetCategoryExclusivity(category->GetExclusivity());
     parameter->SetParameterSource(ZOLParameter::SourceUser);
     isNot ? AddUserRejectedToCurrent(parameter) : AddUserSelectedToCurrent(parameter);
-    if (category->IsIgnored()) {
+    if (category->IsIgnored())
         category->UnsetIgnored();
-        _ignored.RemoveValue(shown.GetName());
-    }
     PlayOrUpdate();
     SaveCurrentParameters();
 }

@@ -12,10 +12,17 @@
 
 namespace {
 
-// One text for what two equal parameters have in common.
-std::string Identity(const ZOLParameter& parameter) {
-    return parameter.GetParameterString(0).Bytes() + (parameter.IsNot() ? "-" : "+");
-}
+// Finds equal parameters among others that live elsewhere.
+struct ByContent {
+    std::size_t operator()(const ZOLParameter* parameter) const {
+        constexpr std::size_t odd = 31;
+        return std::hash<ZOLUnicodeString>{}(parameter->GetOption()) * odd +
+               std::hash<ZOLUnicodeString>{}(parameter->GetCategory()) +
+               static_cast<std::size_t>(parameter->IsNot());
+    }
+    bool operator()(const ZOLParameter* a, const ZOLParameter* b) const { return *a == *b; }
+};
+using ParameterSet = std::unordered_set<const ZOLParameter*, ByContent, ByContent>;
 
 } // namespace
 
@@ -23,9 +30,7 @@ void ZOLCategoryGraphViewer::SetSelected(const ZOLListValZOLQRDCfgEffectivity& t
                                          const int resetSaved) {
     if (resetSaved)
         ResetSavedParameters();
-    std::unordered_set<std::string> known;
-    for (const ZOLParameter* parameter : _current)
-        known.insert(Identity(*parameter));
+    const ParameterSet known(_current.begin(), _current.end());
     for (const ZOLQRDCfgEffectivity& term : terms) {
         if (term.IsUndefined() || term.IsIgnored())
             continue;
@@ -34,7 +39,7 @@ void ZOLCategoryGraphViewer::SetSelected(const ZOLListValZOLQRDCfgEffectivity& t
                                           : node                        ? node->GetCategoryName()
                                                                         : ZOLUnicodeString();
         auto parameter = ParameterOf(term, category, node);
-        if (!known.contains(Identity(*parameter)))
+        if (!known.contains(parameter.get()))
             _current.Append(parameter.release());
     }
     PlayOrUpdate();
@@ -57,10 +62,18 @@ std::unique_ptr<ZOLParameter> ZOLCategoryGraphViewer::ParameterOf(const ZOLQRDCf
 void ZOLCategoryGraphViewer::SetSelected(const ZOLListPtrZOLParameter& parameters, const int resetSaved) {
     if (resetSaved)
         ResetSavedParameters();
-    ZOLDeleteElements(_current);
-    _current = parameters;
+    SetCurrent(parameters);
     PlayOrUpdate();
     SaveCurrentParameters();
+}
+
+void ZOLCategoryGraphViewer::ChooseInstead(const ZOLListPtrZOLParameter& parameters,
+                                           const ZOLListValZOLUnicodeString& ignored) {
+    if (_isAdvanced) {
+        _ignored = ignored;
+        IgnoreCategories(_ignored);
+    }
+    SetSelected(parameters, 0);
 }
 
 ZOLListValZOLIQrdCategory_var ZOLCategoryGraphViewer::AllCategories() const {
@@ -88,9 +101,10 @@ ZOLListValZOLQRDCfgEffectivity ZOLCategoryGraphViewer::GetOptions(const int with
     std::unordered_map<ZOLUnicodeString, const ZOLParameter*> chosen; // the first of each option name
     for (const ZOLParameter* parameter : _current)
         chosen.emplace(parameter->GetOption(), parameter);
+    const std::unordered_set<ZOLUnicodeString> ignored(_ignored.begin(), _ignored.end());
     std::unordered_set<ZOLUnicodeString> told;
     for (const ZOLIQrdCategory_var& category : categories) {
-        const bool isIgnored = _ignored.Locate(category->GetName(), 1) > 0;
+        const bool isIgnored = ignored.contains(category->GetName());
         ZOLListValZOLIQrdEffectivity_var options;
         category->GetOptions(options);
         for (const ZOLIQrdEffectivity_var& option : options) {
@@ -133,8 +147,9 @@ void ZOLCategoryGraphViewer::AddUserRejectedToCurrent(ZOLParameter* parameter) {
 }
 
 void ZOLCategoryGraphViewer::AddRuleParamToCurrent(const ZOLParameter* parameter) {
-    if (!ParameterInList(parameter, _current, 1, -1))
-        _current.Append(new ZOLParameter(*parameter));
+    ZOLListPtrZOLParameter copies;
+    copies.Append(new ZOLParameter(*parameter));
+    TakeOver(copies);
 }
 
 void ZOLCategoryGraphViewer::RemoveRuleDefinedFromCurrent() {
@@ -172,13 +187,13 @@ void ZOLCategoryGraphViewer::PlayRules() {
     int incompatible = 0;
     handler.SolveRulesForOptions(_current, result, expressions, incompatible, conflicts, irresolutions);
     if (!_isCheckMode)
-        TakeOver(result);
+        TakeOver(result.GetParameters());
     if (conflicts.Size() > 0)
         SetCurrent(backup);
     else
         ZOLDeleteElements(backup);
     ClearConflicts();
-    UpdateWithParameters();
+    DrawParameters();
     if (conflicts.Size() > 0 || incompatible)
         HighlightConflicts(conflicts);
     else if (irresolutions.Size() > 0 && !_isCheckMode)
@@ -188,32 +203,41 @@ void ZOLCategoryGraphViewer::PlayRules() {
     ZOLDeleteElements(conflicts);
     ZOLDeleteElements(irresolutions);
     ZOLDeleteElements(expressions);
+    TellShown();
 }
 
-// AddRuleParamToCurrent for each, by one look at what is there.
-void ZOLCategoryGraphViewer::TakeOver(const ZOLExpression& result) {
-    std::unordered_set<std::string> known;
-    for (const ZOLParameter* parameter : _current)
-        known.insert(Identity(*parameter));
-    for (ZOLParameter* parameter : result.GetParameters())
-        if (known.insert(Identity(*parameter)).second)
+void ZOLCategoryGraphViewer::TakeOver(const ZOLListPtrZOLParameter& parameters) {
+    ParameterSet known(_current.begin(), _current.end());
+    for (ZOLParameter* parameter : parameters)
+        if (known.insert(parameter).second)
             _current.Append(parameter);
         else
             delete parameter;
 }
 
 // Each node gets the parameters of its own category alone: the whole list for each would be compared a thousand times.
-void ZOLCategoryGraphViewer::UpdateWithParameters() {
+void ZOLCategoryGraphViewer::DrawParameters() {
     std::unordered_map<ZOLUnicodeString, ZOLListPtrZOLParameter> parametersOf;
     for (ZOLParameter* parameter : _current)
         parametersOf[parameter->GetCategory()].Append(parameter);
+    ZOLListValZOLUnicodeString considered;
     for (ZOLCategoryNode* node : _nodes) {
+        const ZOLUnicodeString category = node->GetCategoryName();
         node->ClearDefined();
-        if (!node->SetParameters(parametersOf[node->GetCategoryName()], _hidesRuleRejected,
-                                 _hidesUserRejected))
-            _ignored.RemoveValue(node->GetCategoryName());
+        if (!node->SetParameters(parametersOf[category], _hidesRuleRejected, _hidesUserRejected))
+            considered.Append(category);
     }
+    _ignored.Remove(considered);
     UpdateRootNodeColor(0);
+}
+
+void ZOLCategoryGraphViewer::UpdateWithParameters() {
+    DrawParameters();
+    TellShown();
+}
+
+void ZOLCategoryGraphViewer::TellShown() {
+    SendNotification(this, &_selectionShownNotification);
 }
 
 void ZOLCategoryGraphViewer::PlayOrUpdate() {

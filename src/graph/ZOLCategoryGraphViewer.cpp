@@ -22,7 +22,8 @@ ZOLCategoryGraphViewer::ZOLCategoryGraphViewer(ZOLDialog* parent, const ZOLStrin
     : ZOLGraphViewer(parent, name, ViewerStyle, width, height, flag ? FixedSize : 0),
       _root(new ZOLGraphNode(rootText, OpenPixmap)),
       _menu(new ZOLDlgContextualMenu(this, "ContextualMenu")),
-      _isAdvanced(advanced) {
+      _isAdvanced(advanced),
+      _selectionShownNotification("SelectionShownNotification") {
     _root->setColor(Colours::Plain);
     ZOLGraph* graph = GetGraph();
     graph->setPacked();

@@ -10,7 +10,6 @@
 #include <unordered_map>
 
 class ZOLDlgContextualMenu;
-class ZOLExpression;
 
 // ZOLCategoryGraphViewer: the graph in which a user chooses options: a root, the categories under it, their options
 // under these. The list of current parameters is the one truth of the selection: nodes are drawn from it, never the
@@ -70,6 +69,9 @@ public:
     const ZOLListPtrZOLCategoryNode& GetCategoryNodes() const { return _nodes; }
     const ZOLListValZOLUnicodeString& GetIgnoredCategories() const { return _ignored; }
     ZOLNotification* GetSelectOptionNotification();
+    // Sent to the viewer and its fathers when a changed selection has been drawn. (The select notification of a click
+    // comes before the change.)
+    ZOLNotification* GetSelectionShownNotification() { return &_selectionShownNotification; }
     // 1 when nothing is chosen at all, or no mandatory category is without a choice.
     int AllMandatoryCategoriesSelected() const;
     ZOLGraphNode* GetRootNode() const { return _root; }
@@ -97,6 +99,8 @@ public:
     void SetSelected(const ZOLListValZOLQRDCfgEffectivity& terms, const int centre, const int resetSaved);
     // Takes the list over in place of the selection, with its elements.
     void SetSelected(const ZOLListPtrZOLParameter& parameters, const int resetSaved);
+    // The same in one step with the ignored categories, which only count in advanced mode.
+    void ChooseInstead(const ZOLListPtrZOLParameter& parameters, const ZOLListValZOLUnicodeString& ignored);
     void SetHighlighted(const ZOLListValZOLQRDCfgEffectivity& terms, const int centre);
     void UnHighlightAll();
     void SetCentered(const ZOLQRDCfgEffectivity& term);
@@ -154,9 +158,12 @@ private:
     void ChooseDefaults();
     void ChooseDefaultsOf(const ZOLIQrdCategory_var& category);
     void PlayOrUpdate();
+    void DrawParameters();
+    void TellShown();
     void Restore(const trellis::UndoRing::State* state);
     void SetCurrent(const ZOLListPtrZOLParameter& parameters);
-    void TakeOver(const ZOLExpression& result);
+    // Appends those to which no equal one is there, and deletes the others.
+    void TakeOver(const ZOLListPtrZOLParameter& parameters);
     ZOLCategoryNode* NodeOfCategory(const ZOLUnicodeString& name) const;
     // The first category that has an option of that name; null for none.
     ZOLCategoryNode* NodeWithOption(const ZOLUnicodeString& option) const;
@@ -188,4 +195,5 @@ private:
     bool _hasInitial = false;
     trellis::UndoRing::State _initial;
     trellis::UndoRing _undo;
+    ZOLNotification _selectionShownNotification;
 };

@@ -14,6 +14,8 @@ constexpr int ByList = 1;
 constexpr int ByUser = 2;
 
 namespace Colours = trellis::GraphColours;
+using trellis::NodeAlert;
+using trellis::NodeMark;
 
 ZOLListValZOLIQrdCategory_var ListOf(const ZOLIQrdCategory_var& category) {
     ZOLListValZOLIQrdCategory_var list;
@@ -321,6 +323,11 @@ void ZOLCategoryNode::UnsetIgnored() {
     UpdateNodeColor();
 }
 
+bool ZOLCategoryNode::IsUndecided() const {
+    return !IsIgnored() && Count(&ZOLOptionNode::IsSelected) == 0 &&
+           Count(&ZOLOptionNode::IsRejected) < _options.Size();
+}
+
 int ZOLCategoryNode::Count(Condition condition) const {
     return static_cast<int>(std::count_if(_options.begin(), _options.end(), [&](const ZOLOptionNode* option) {
         return (option->*condition)() != 0;
@@ -342,10 +349,13 @@ int ZOLCategoryNode::DecidedColor() const {
 }
 
 void ZOLCategoryNode::UpdateNodeColor() {
-    if (_hasConflict)
-        setColor(Colours::Conflict);
-    else if (_hasIrresolution)
-        setColor(Colours::Irresolution);
-    else
-        setColor(DecidedColor());
+    const int decided = DecidedColor();
+    setColor(_hasConflict ? Colours::Conflict : _hasIrresolution ? Colours::Irresolution : decided);
+    const NodeMark mark = IsIgnored()                    ? NodeMark::Ignored
+                          : decided == Colours::Missing ? NodeMark::Missing
+                          : decided == Colours::Decided ? NodeMark::Decided
+                                                         : NodeMark::Undecided;
+    setMark(mark, _hasConflict       ? NodeAlert::Conflict
+                  : _hasIrresolution ? NodeAlert::Irresolution
+                                     : NodeAlert::None);
 }

@@ -77,11 +77,13 @@ public:
     // Only where it can be ignored. byUser: by the user's own command, which no parameter ends; else by a list.
     void SetIgnored(const int byUser);
     void UnsetIgnored();
+    // Not ignored, nothing selected, and something left to select.
+    bool IsUndecided() const;
     int IsIgnored() const { return _ignorable && _ignoredLevel > 0; }
     void BuildNodeText();
     // Conflict 4, irresolution 2; then a mandatory category without a choice, or an ignored one, 7; one in which a
     // decision is in force 46; else 1. Where it can be ignored and is not, a category counts as decided unless all
-    // its options are rejected.
+    // its options are rejected. The mark tells the same, and what is ignored; the alert the first two.
     void UpdateNodeColor();
 
 private:

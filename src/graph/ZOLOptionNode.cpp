@@ -3,6 +3,9 @@
 #include "graph/GraphColours.h"
 #include "toolkit/ZOLGraphArc.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 constexpr const char* NoPixmap = " ";
@@ -10,6 +13,24 @@ constexpr int PlainLine = 1;
 constexpr int RejectedLine = 2;
 
 namespace Colours = trellis::GraphColours;
+using trellis::NodeAlert;
+using trellis::NodeMark;
+
+struct Look {
+    NodeMark mark;
+    int color;
+    int highlight = 0;
+    bool isPressed = false;
+};
+
+constexpr Look Looks[] = {
+    {NodeMark::Undecided, Colours::PlainOption},
+    {NodeMark::Ignored, Colours::Ignored},
+    {NodeMark::ChosenByUser, Colours::PlainOption, 1, true},
+    {NodeMark::ChosenByRule, Colours::RuleSelected, 0, true},
+    {NodeMark::RejectedByUser, Colours::UserRejected},
+    {NodeMark::RejectedByRule, Colours::RuleRejected},
+};
 
 } // namespace
 
@@ -27,19 +48,18 @@ void ZOLOptionNode::BuildNodeText() {
 }
 
 void ZOLOptionNode::ResetNodeDisplay() {
-    setHighlight(0);
-    setShadowOut();
-    setColor(_ignorable && _isIgnored ? Colours::Ignored : Colours::PlainOption);
+    Draw(_isIgnored ? NodeMark::Ignored : NodeMark::Undecided);
 }
 
 void ZOLOptionNode::ResetArcDisplay() {
     SetArcLine(PlainLine);
-    SetArcColor(Colours::PlainArc);
+    ClearConflict();
 }
 
-void ZOLOptionNode::SetArcColor(int color) {
+void ZOLOptionNode::SetAlert(int arcColor, NodeAlert alert) {
     if (ZOLGraphArc* arc = firstArcParent())
-        arc->setColor(color);
+        arc->setColor(arcColor);
+    setMark(getMark(), alert);
 }
 
 void ZOLOptionNode::SetArcLine(int type) {
@@ -47,26 +67,28 @@ void ZOLOptionNode::SetArcLine(int type) {
         arc->setLineType(type);
 }
 
-void ZOLOptionNode::Draw(int color, bool isPressed) {
-    ResetNodeDisplay();
-    setColor(color);
-    isPressed ? setShadowIn() : setShadowOut();
+// What is ignored keeps its colour where the look has none of its own.
+void ZOLOptionNode::Draw(NodeMark mark) {
+    const auto look =
+        std::find_if(std::begin(Looks), std::end(Looks), [mark](const Look& l) { return l.mark == mark; });
+    setHighlight(look->highlight);
+    look->isPressed ? setShadowIn() : setShadowOut();
+    setColor(_isIgnored && look->color == Colours::PlainOption ? Colours::Ignored : look->color);
+    setMark(mark, getAlert());
 }
 
 void ZOLOptionNode::SetUserSelected() {
     if (IsUserRejected())
         UnsetRejected();
     _selected = State::User;
-    ResetNodeDisplay();
-    setHighlight(1);
-    setShadowIn();
+    Draw(NodeMark::ChosenByUser);
 }
 
 void ZOLOptionNode::SetRuleSelected() {
     if (IsUserSelected())
         return;
     _selected = State::Rule;
-    Draw(Colours::RuleSelected, true);
+    Draw(NodeMark::ChosenByRule);
 }
 
 void ZOLOptionNode::UnsetSelected() {
@@ -83,7 +105,7 @@ void ZOLOptionNode::SetUserRejected() {
         UnsetSelected();
     _rejected = State::User;
     SetArcLine(RejectedLine);
-    Draw(Colours::UserRejected, false);
+    Draw(NodeMark::RejectedByUser);
 }
 
 void ZOLOptionNode::SetRuleRejected() {
@@ -91,7 +113,7 @@ void ZOLOptionNode::SetRuleRejected() {
         return;
     _rejected = State::Rule;
     SetArcLine(RejectedLine);
-    Draw(Colours::RuleRejected, false);
+    Draw(NodeMark::RejectedByRule);
 }
 
 void ZOLOptionNode::UnsetRejected() {
@@ -138,15 +160,15 @@ void ZOLOptionNode::UnHighlight() {
 }
 
 void ZOLOptionNode::HighlightConflict() {
-    SetArcColor(Colours::Conflict);
+    SetAlert(Colours::Conflict, NodeAlert::Conflict);
 }
 
 void ZOLOptionNode::HighlightIrresolution() {
-    SetArcColor(Colours::Irresolution);
+    SetAlert(Colours::Irresolution, NodeAlert::Irresolution);
 }
 
 void ZOLOptionNode::ClearConflict() {
-    SetArcColor(Colours::PlainArc);
+    SetAlert(Colours::PlainArc, NodeAlert::None);
 }
 
 void ZOLOptionNode::Reset() {

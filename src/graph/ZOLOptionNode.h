@@ -8,13 +8,13 @@
 // fields, each by the user or by a rule; the display is that of the state which was set last and holds. The word of the
 // user beats that of a rule, and a rule never rejects what is selected.
 //
-//   display           colour  highlight  shadow  line of the arc above
-//   nothing           6       off        out     1
-//   ignored           66      off        out     1
-//   user selected     6       on         in      as it is
-//   rule selected     7       off        in      as it is
-//   user rejected     12      off        out     2
-//   rule rejected     254     off        out     2
+//   display           colour  highlight  shadow  line of the arc above  mark
+//   nothing           6       off        out     1                      Undecided
+//   ignored           66      off        out     1                      Ignored
+//   user selected     6       on         in      as it is               ChosenByUser
+//   rule selected     7       off        in      as it is               ChosenByRule
+//   user rejected     12      off        out     2                      RejectedByUser
+//   rule rejected     254     off        out     2                      RejectedByRule
 class ZOLOptionNode : public ZOLCategoryGraphNode {
     ZOL_META_OBJECT(ZOLOptionNode, ZOLCategoryGraphNode)
 public:
@@ -50,7 +50,7 @@ public:
     // Another colour until UnHighlight draws the state again.
     void Highlight();
     void UnHighlight();
-    // The colour of the arc above.
+    // The colour of the arc above, and the alert of the node.
     void HighlightConflict();
     void HighlightIrresolution();
     void ClearConflict();
@@ -71,9 +71,10 @@ public:
 private:
     enum class State { None, User, Rule };
 
-    void SetArcColor(int color);
     void SetArcLine(int type);
-    void Draw(int color, bool isPressed);
+    // The colour of the arc above with the alert that it means.
+    void SetAlert(int arcColor, trellis::NodeAlert alert);
+    void Draw(trellis::NodeMark mark);
 
     ZOLOption _option;
     int _ignorable;

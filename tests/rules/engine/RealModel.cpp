@@ -14,18 +14,6 @@ namespace trellis {
 
 namespace {
 
-std::string Unpacked(const std::filesystem::path& file) {
-    std::string text;
-    FILE* pipe = popen(("xz -dc '" + file.string() + "'").c_str(), "r");
-    if (!pipe)
-        return text;
-    std::array<char, 65536> piece{};
-    while (const std::size_t read = std::fread(piece.data(), 1, piece.size(), pipe))
-        text.append(piece.data(), read);
-    pclose(pipe);
-    return text;
-}
-
 // Gives every option its number.
 class Numbering {
 public:
@@ -76,8 +64,20 @@ std::vector<std::filesystem::path> RealModelFiles() {
     return files;
 }
 
+std::string RealModelText(const std::filesystem::path& file) {
+    std::string text;
+    FILE* pipe = popen(("xz -dc '" + file.string() + "'").c_str(), "r");
+    if (!pipe)
+        return text;
+    std::array<char, 65536> piece{};
+    while (const std::size_t read = std::fread(piece.data(), 1, piece.size(), pipe))
+        text.append(piece.data(), read);
+    pclose(pipe);
+    return text;
+}
+
 std::optional<RuleModel> ReadRealModel(const std::filesystem::path& file) {
-    const ModelReading reading = UvlReader::Read(Unpacked(file));
+    const ModelReading reading = UvlReader::Read(RealModelText(file));
     if (!reading.problems.empty() || reading.model.categories.empty())
         return std::nullopt;
     return Numbering(reading.model).Take();

@@ -1,0 +1,106 @@
+#include "configure/SelectionReasons.h"
+
+#include <algorithm>
+
+namespace trellis {
+
+namespace {
+
+constexpr int MostRepairs = 8;
+// Places in the list of states, and the numbers there that mean off.
+constexpr int RulesPlace = 3;
+constexpr int RulesOff = 6;
+constexpr int DirectivesPlace = 4;
+constexpr int DirectivesOff = 8;
+constexpr int PackagesPlace = 5;
+constexpr int PackagesOff = 10;
+constexpr int MatricesPlace = 6;
+constexpr int MatricesOff = 12;
+
+std::vector<ZOLUnicodeString> Lines(const std::vector<RuleReasonItem>& reasons) {
+    std::vector<ZOLUnicodeString> lines;
+    for (const RuleReasonItem& reason : reasons)
+        lines.push_back(reason.Line());
+    return lines;
+}
+
+} // namespace
+
+// One question to the rules: the handler, and the choices as it takes them.
+class SelectionReasons::Question {
+public:
+    Question(const ZOLIQRDCategoryGraph& panel, Parameters choices)
+        : handler(panel.GetDictionaries()), _choices(std::move(choices)) {
+        for (ZOLParameter& choice : _choices)
+            list.Append(&choice);
+        const ZOLListVal<int> status = panel.GetListOfStatus();
+        const bool areAllOff = status[RulesPlace] == RulesOff;
+        if (areAllOff || status[DirectivesPlace] == DirectivesOff)
+            handler.DisableDirectiveRules();
+        if (areAllOff || status[PackagesPlace] == PackagesOff)
+            handler.DisablePackages();
+        if (areAllOff || status[MatricesPlace] == MatricesOff)
+            handler.DisableMatrices();
+    }
+
+    ZOLRuleHandler handler;
+    ZOLListPtrZOLParameter list;
+
+private:
+    Parameters _choices;
+};
+
+SelectionReasons::Parameters SelectionReasons::Choices() const {
+    Parameters choices;
+    for (const ZOLParameter* parameter : _panel.GetParameters())
+        if (parameter->GetParameterSource() != ZOLParameter::SourceRule)
+            choices.push_back(*parameter);
+    return choices;
+}
+
+int SelectionReasons::CountChosen() const {
+    const Parameters choices = Choices();
+    return static_cast<int>(
+        std::ranges::count_if(choices, [](const ZOLParameter& choice) { return !choice.IsNot(); }));
+}
+
+SelectionReasons::State SelectionReasons::StateOf(const ZOLParameter& option) const {
+    for (const ZOLParameter* parameter : _panel.GetParameters()) {
+        if (parameter->GetOption() != option.GetOption() || parameter->GetCategory() != option.GetCategory())
+            continue;
+        const bool byRules = parameter->GetParameterSource() == ZOLParameter::SourceRule;
+        if (parameter->IsNot())
+            return byRules ? State::RejectedByRules : State::Rejected;
+        return byRules ? State::ChosenByRules : State::Chosen;
+    }
+    return _panel.GetIgnoredCategories().Locate(option.GetCategory()) > 0 ? State::Ignored : State::Open;
+}
+
+std::vector<ZOLUnicodeString> SelectionReasons::Why(const ZOLParameter& option) const {
+    const State state = StateOf(option);
+    if (state != State::ChosenByRules && state != State::RejectedByRules)
+        return {};
+    Question question(_panel, Choices());
+    return Lines(question.handler.Why(question.list, ZOLParameter(option.GetCategory(), option.GetOption(),
+                                                                  state == State::RejectedByRules)));
+}
+
+std::vector<ZOLUnicodeString> SelectionReasons::WhyConflict() const {
+    Question question(_panel, Choices());
+    return Lines(question.handler.WhyConflict(question.list));
+}
+
+std::vector<SelectionReasons::Parameters> SelectionReasons::Repairs() const {
+    Question question(_panel, Choices());
+    return question.handler.Repairs(question.list, MostRepairs);
+}
+
+std::vector<ZOLUnicodeString> SelectionReasons::RulesLeftOut() const {
+    ZOLRuleHandler handler(_panel.GetDictionaries());
+    std::vector<ZOLUnicodeString> lines;
+    for (const RuleFinding& finding : handler.RulesLeftOut())
+        lines.push_back(finding.subject + " - " + finding.verdict);
+    return lines;
+}
+
+} // namespace trellis

@@ -1,0 +1,117 @@
+#include "session/KeptSelection.h"
+
+#include "service/ZOLQRDCfgManager.h"
+#include "values/ZOLGYRError.h"
+
+#include <nlohmann/json.hpp>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <fstream>
+#include <sstream>
+#include <unordered_map>
+
+namespace trellis {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+constexpr int NotWritten = 60631;
+constexpr int NotRead = 60634;
+constexpr int NoSelection = 60635;
+constexpr int Version = 1;
+constexpr const char* VersionKey = "trellis selection";
+constexpr const char* IgnoredKey = "ignored categories";
+constexpr int Indent = 2;
+
+Json JsonOf(const KeptSelection& selection) {
+    Json json = {{VersionKey, Version}, {"product", selection.product}, {"choices", Json::array()}};
+    for (const ZOLParameter& choice : selection.choices)
+        json["choices"].push_back({{"category", choice.GetCategory().Bytes()},
+                                   {"option", choice.GetOption().Bytes()},
+                                   {"rejected", choice.IsNot() != 0}});
+    json[IgnoredKey] = Json::array();
+    for (const ZOLUnicodeString& category : selection.ignoredCategories)
+        json[IgnoredKey].push_back(category.Bytes());
+    return json;
+}
+
+KeptSelection SelectionOf(const Json& json) {
+    KeptSelection selection;
+    selection.product = json.value("product", "");
+    for (const Json& choice : json.at("choices")) {
+        selection.choices.emplace_back(choice.at("category").get<std::string>(),
+                                       choice.at("option").get<std::string>(),
+                                       choice.value("rejected", false));
+        selection.choices.back().SetParameterSource(ZOLParameter::SourceUser);
+    }
+    for (const Json& category : json.value(IgnoredKey, Json::array()))
+        selection.ignoredCategories.Append(category.get<std::string>());
+    return selection;
+}
+
+} // namespace
+
+bool KeptSelection::Write(const std::string& file, ZOLGYRError& error) const {
+    const std::string draft = file + ".new";
+    errno = 0;
+    std::ofstream output(draft, std::ios::binary | std::ios::trunc);
+    output << JsonOf(*this).dump(Indent, ' ', false, Json::error_handler_t::replace) << '\n';
+    output.close();
+    if (!output.fail() && std::rename(draft.c_str(), file.c_str()) == 0)
+        return true;
+    error.Set(NotWritten, 0, {file, std::strerror(errno)});
+    std::remove(draft.c_str());
+    return false;
+}
+
+std::optional<KeptSelection> KeptSelection::Read(const std::string& file, ZOLGYRError& error) {
+    std::ifstream input(file, std::ios::binary);
+    std::ostringstream text;
+    if (!input || !(text << input.rdbuf())) {
+        error.Set(NotRead, 0, {file});
+        return std::nullopt;
+    }
+    try {
+        const Json json = Json::parse(text.str());
+        if (json.at(VersionKey) != Version)
+            error.Set(NoSelection, 0, {file, "it is of a later version"});
+        else
+            return SelectionOf(json);
+    } catch (const Json::exception& exception) {
+        error.Set(NoSelection, 0, {file, exception.what()});
+    }
+    return std::nullopt;
+}
+
+std::vector<ZOLParameter> KeptSelection::TakeOutUnknown(const ZOLListValZOLIQrdConfigItem_var& dictionaries) {
+    std::unordered_map<std::string, int> exclusivities; // by the reference of the option
+    ZOLGYRError error;
+    const ZOLQRDCfgManager* manager = ZOLQRDCfgManager::CurrentCfgManager(error);
+    for (int i = 1; manager && i <= dictionaries.Size(); ++i) {
+        ZOLListValZOLIQrdCategory_var categories;
+        manager->GetCategoriesFromDictionary(dictionaries[i], categories);
+        for (const ZOLIQrdCategory_var& category : categories) {
+            ZOLListValZOLIQrdEffectivity_var options;
+            category->GetOptions(options);
+            for (const ZOLIQrdEffectivity_var& option : options)
+                exclusivities.emplace(
+                    ZOLParameter(category->GetName(), option->GetOption(), 0).GetParameterString().Bytes(),
+                    category->GetExclusivity());
+        }
+    }
+    std::vector<ZOLParameter> unknown;
+    std::vector<ZOLParameter> known;
+    for (ZOLParameter& choice : choices) {
+        const auto found = exclusivities.find(choice.GetParameterString().Bytes());
+        if (found != exclusivities.end())
+            choice.SetCategoryExclusivity(found->second);
+        (found == exclusivities.end() ? unknown : known).push_back(choice);
+    }
+    choices = std::move(known);
+    return unknown;
+}
+
+} // namespace trellis

@@ -1,0 +1,20 @@
+#include "entry/ZOLDictionary.h"
+#include "graph/ZOLDlgCategoryGraph.h"
+
+namespace {
+
+constexpr int ControlsAndProduct = 3;
+constexpr int AsResultPanelSays = -1;
+constexpr int Width = 700; // in pixels, as the next
+constexpr int Height = 400;
+
+ZOLIQRDCategoryGraph* Make(ZOLDialog* parent, const ZOLString& name, const ZOLUnicodeString& title,
+                           const ZOLListValZOLDMInstance& products) {
+    return new ZOLDlgCategoryGraph(parent, name, title, ControlsAndProduct, products, AsResultPanelSays,
+                                   Width, Height, 0);
+}
+
+// Loading the library makes the panel known to hosts.
+const ZOLDictionary static_command_ZOLDlgCategoryGraph(CategoryGraphName, reinterpret_cast<void*>(&Make));
+
+} // namespace
