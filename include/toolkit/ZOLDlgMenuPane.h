@@ -14,6 +14,8 @@ public:
     // Opens with the items that are there, and closes any other menu; NotThere when none is.
     ZOLUserResult ShowBuilt();
     void Close();
+    // Gives up what it holds: for menus that are built anew each time.
+    void Empty();
     bool IsOpen() const { return _isOpen; }
     // The menu that is open now; null when none is. Only one ever is.
     static ZOLDlgMenuPane* GetOpenMenu();

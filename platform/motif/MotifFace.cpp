@@ -57,10 +57,11 @@ Pixmap MotifFace::Painted(Widget widget, bool isPressed) {
 }
 
 // Whatever state the native widget believes itself in, it shows the picture that was painted for it. A greyed
-// widget whose two pictures are one would put a grid over it.
+// widget whose two pictures are one would put a grid over it. A toggle that is on remembers how wide its picture was
+// before it became narrower, so the picture begins where the widget does instead of standing in its middle.
 void MotifFace::Carry(Widget widget) {
     const Pixmap greyed = _shown.isSensitive ? _picture : _second;
-    XtVaSetValues(widget, XmNlabelType, XmPIXMAP, XmNalignment, XmALIGNMENT_CENTER, XmNmarginWidth, 0,
+    XtVaSetValues(widget, XmNlabelType, XmPIXMAP, XmNalignment, XmALIGNMENT_BEGINNING, XmNmarginWidth, 0,
                   XmNmarginHeight, 0, XmNmarginLeft, 0, XmNmarginRight, 0, XmNmarginTop, 0, XmNmarginBottom,
                   0, XmNshadowThickness, 0, XmNhighlightThickness, RingWidth(), XmNrecomputeSize, False,
                   XmNlabelPixmap, _picture, XmNlabelInsensitivePixmap, greyed, nullptr);

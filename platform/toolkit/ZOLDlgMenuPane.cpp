@@ -49,6 +49,11 @@ void ZOLDlgMenuPane::Close() {
     MarkChanged();
 }
 
+void ZOLDlgMenuPane::Empty() {
+    for (ZOLDialog* item : std::vector<ZOLDialog*>(GetChildren()))
+        item->RequestDelayedDestruction();
+}
+
 ZOLDlgMenuPane* ZOLDlgMenuPane::GetOpenMenu() {
     auto* menu = dynamic_cast<ZOLDlgMenuPane*>(OpenMenu().Get());
     return menu && menu->IsOpen() && menu->GetVisibility() == ZOLShown ? menu : nullptr;

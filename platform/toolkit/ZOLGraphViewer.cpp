@@ -147,9 +147,8 @@ void ZOLGraphViewer::Send(ZOLGraphNotification& notification, ZOLGraphNode* node
 // A menu is empty before each context gesture, so that what an earlier one built for another node cannot
 // appear.
 void ZOLGraphViewer::SendContext(ZOLGraphNotification& notification, ZOLGraphNode* node) {
-    if (const ZOLDlgContextualMenu* menu = FindContextualMenu())
-        for (ZOLDialog* item : std::vector<ZOLDialog*>(menu->GetChildren()))
-            item->RequestDelayedDestruction();
+    if (ZOLDlgContextualMenu* menu = FindContextualMenu())
+        menu->Empty();
     Send(notification, node);
     notification.SetNode(nullptr);
     if (IsBeingDestroyed())

@@ -31,6 +31,7 @@ void ZOLDlgCategoryGraph::SelectOptionCB(ZOLCommand*, ZOLNotification*, void*) {
 }
 
 void ZOLDlgCategoryGraph::ChangeConfigModeMenuCB(ZOLCommand*, ZOLNotification*, void*) {
+    _configModeMenu->Empty();
     const auto add = [&](const char* name, const char* title, int isAdvanced) {
         auto* item = new ZOLDlgPushItem(_configModeMenu, name);
         item->SetTitle(Text(title));

@@ -208,8 +208,10 @@ void ZOLDlgCategoryGraph::HideConfigMode() {
 }
 
 void ZOLDlgCategoryGraph::LockedConfigMode() {
-    if (_configModeMenu)
-        RemoveAnalyseNotificationCB(_configModeMenu, _configModeMenu->GetVisibilityNotification());
+    if (!_configModeMenu)
+        return;
+    _configModeMenu->Empty();
+    RemoveAnalyseNotificationCB(_configModeMenu, _configModeMenu->GetVisibilityNotification());
 }
 
 void ZOLDlgCategoryGraph::UnlockedConfigMode() {

@@ -24,6 +24,15 @@ struct ByContent {
 };
 using ParameterSet = std::unordered_set<const ZOLParameter*, ByContent, ByContent>;
 
+// Each node gets the parameters of its own category alone: the whole list for each would be compared a thousand times.
+std::unordered_map<ZOLUnicodeString, ZOLListPtrZOLParameter>
+ByCategory(const ZOLListPtrZOLParameter& parameters) {
+    std::unordered_map<ZOLUnicodeString, ZOLListPtrZOLParameter> grouped;
+    for (ZOLParameter* parameter : parameters)
+        grouped[parameter->GetCategory()].Append(parameter);
+    return grouped;
+}
+
 } // namespace
 
 void ZOLCategoryGraphViewer::SetSelected(const ZOLListValZOLQRDCfgEffectivity& terms, const int centre,
@@ -215,11 +224,8 @@ void ZOLCategoryGraphViewer::TakeOver(const ZOLListPtrZOLParameter& parameters) 
             delete parameter;
 }
 
-// Each node gets the parameters of its own category alone: the whole list for each would be compared a thousand times.
 void ZOLCategoryGraphViewer::DrawParameters() {
-    std::unordered_map<ZOLUnicodeString, ZOLListPtrZOLParameter> parametersOf;
-    for (ZOLParameter* parameter : _current)
-        parametersOf[parameter->GetCategory()].Append(parameter);
+    auto parametersOf = ByCategory(_current);
     ZOLListValZOLUnicodeString considered;
     for (ZOLCategoryNode* node : _nodes) {
         const ZOLUnicodeString category = node->GetCategoryName();
@@ -245,14 +251,16 @@ void ZOLCategoryGraphViewer::PlayOrUpdate() {
 }
 
 void ZOLCategoryGraphViewer::HighlightConflicts(const ZOLListPtrZOLParameter& parameters) {
+    auto parametersOf = ByCategory(parameters);
     for (ZOLCategoryNode* node : _nodes)
-        node->HighlightConflicts(parameters);
+        node->HighlightConflicts(parametersOf[node->GetCategoryName()]);
     UpdateRootNodeColor(1);
 }
 
 void ZOLCategoryGraphViewer::HighlightIrresolutions(const ZOLListPtrZOLParameter& parameters) {
+    auto parametersOf = ByCategory(parameters);
     for (ZOLCategoryNode* node : _nodes)
-        node->HighlightIrresolutions(parameters);
+        node->HighlightIrresolutions(parametersOf[node->GetCategoryName()]);
     UpdateRootNodeColor(0);
 }
 

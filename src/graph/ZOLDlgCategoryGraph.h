@@ -8,6 +8,7 @@
 class ZOLDlgCheckButton;
 class ZOLDlgCheckList;
 class ZOLDlgCombo;
+class ZOLDlgContextualMenu;
 class ZOLDlgDialog;
 class ZOLDlgEditor;
 class ZOLDlgLabel;
@@ -197,7 +198,7 @@ private:
     ZOLDialog* _optionsFrame = nullptr;
     ZOLDialog* _configModeFrame = nullptr;
     ZOLDlgLabel* _configModeLabel = nullptr;
-    ZOLDialog* _configModeMenu = nullptr;
+    ZOLDlgContextualMenu* _configModeMenu = nullptr;
     ZOLDialog* _rulesFrame = nullptr;
     ZOLDialog* _rulesControls = nullptr;
     ZOLDialog* _noRules = nullptr;

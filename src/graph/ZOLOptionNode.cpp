@@ -168,7 +168,8 @@ void ZOLOptionNode::HighlightIrresolution() {
 }
 
 void ZOLOptionNode::ClearConflict() {
-    SetAlert(Colours::PlainArc, NodeAlert::None);
+    if (getAlert() != NodeAlert::None)
+        SetAlert(Colours::PlainArc, NodeAlert::None);
 }
 
 void ZOLOptionNode::Reset() {

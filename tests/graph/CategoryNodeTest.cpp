@@ -109,6 +109,31 @@ TEST_F(CategoryNode, ConflictsAndIrresolutionsAreMarkedUntilTheyAreCleared) {
     ZOLDeleteElements(list);
 }
 
+TEST_F(CategoryNode, ItsMarkTellsApartWhatSharesAColour) {
+    colour->SetMandatory(1, error);
+    ZOLCategoryNode simple(colour, 0, 0);
+    ZOLCategoryNode advanced(colour, 1, 0);
+    advanced.SetIgnored(0);
+    EXPECT_EQ(simple.getColor(), advanced.getColor());
+    EXPECT_EQ(simple.getMark(), NodeMark::Missing);
+    EXPECT_EQ(advanced.getMark(), NodeMark::Ignored);
+    colour->SetMandatory(0, error);
+    for (ZOLCategoryNode* node : {&simple, &advanced})
+        node->UpdateNodeColor();
+    EXPECT_EQ(simple.getColor(), advanced.getColor());
+    EXPECT_EQ(simple.getMark(), NodeMark::Undecided);
+    EXPECT_EQ(advanced.getMark(), NodeMark::Ignored);
+
+    Apply(simple, {red});
+    ZOLListPtrZOLParameter list;
+    list.Append(new ZOLParameter(blueByRule));
+    simple.HighlightConflicts(list);
+    EXPECT_EQ(simple.getMark(), NodeMark::Decided) << "a conflict does not hide it";
+    EXPECT_EQ(simple.getAlert(), NodeAlert::Conflict);
+    EXPECT_EQ(simple.GetOptionNode("BLUE")->getAlert(), NodeAlert::Conflict);
+    ZOLDeleteElements(list);
+}
+
 TEST_F(CategoryNode, TellsItsSelectionWithItsExclusivity) {
     ZOLCategoryNode node(colour, 0, 0);
     Apply(node, {red, noGreen, blueByRule});

@@ -134,6 +134,39 @@ TEST_F(OptionNode, IgnoringEndsBothStatesAndOnlyWhereItIsPossible) {
     EXPECT_TRUE(plain.IsUserSelected());
 }
 
+TEST_F(OptionNode, ItsMarkTellsTheStateThatShowsAndItsAlertWhatIsWrongBesides) {
+    struct Case {
+        const char* way;
+        const char* words;
+    };
+    const Case cases[] = {
+        {"", "undecided"},
+        {"s", "chosen by the user"},
+        {"S", "chosen by a rule"},
+        {"r", "rejected by the user"},
+        {"R", "rejected by a rule"},
+        {"Sr", "rejected by the user"},
+        {"rS", "chosen by a rule"},
+        {"Rsu", "rejected by a rule"},
+        {"sR", "chosen by the user"},
+    };
+    for (const Case& c : cases) {
+        node.Reset();
+        Do(c.way);
+        EXPECT_STREQ(WordsFor(node.getMark()), c.words) << c.way;
+        node.HighlightConflict();
+        node.Highlight();
+        EXPECT_STREQ(WordsFor(node.getMark()), c.words) << c.way;
+        EXPECT_EQ(node.getAlert(), NodeAlert::Conflict) << c.way;
+        node.ClearConflict();
+        EXPECT_EQ(node.getAlert(), NodeAlert::None) << c.way;
+    }
+    node.HighlightIrresolution();
+    node.SetIgnored();
+    EXPECT_EQ(node.getMark(), NodeMark::Ignored);
+    EXPECT_EQ(node.getAlert(), NodeAlert::None);
+}
+
 TEST_F(OptionNode, ALongDescriptionIsCutInItsText) {
     const auto text = [](const char* description, int withDescription) {
         return ZOLOptionNode(ZOLOption("X", description, "C", 0, 0), 0, withDescription).getText().Bytes();
