@@ -57,8 +57,12 @@ public:
             const std::string name = (i % 21 == 1 ? "Category " : "Option ") + std::to_string(i);
             ZOLGraphNode* node = Add(name.c_str(), i % 21 == 1 ? root : category);
             node->setColor(colours[i % 10]);
-            if (i % 21 == 1)
+            if (i % 21 == 1) {
                 category = node;
+                continue;
+            }
+            node->setPixmap(" ");
+            node->setMark(static_cast<NodeMark>(1 + i % 6), static_cast<NodeAlert>(i % 7 == 0));
         }
         graph.addTree(root);
     }

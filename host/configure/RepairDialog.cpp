@@ -4,6 +4,8 @@
 #include "toolkit/ZOLDlgLabel.h"
 #include "toolkit/ZOLDlgSelectorList.h"
 
+#include <algorithm>
+
 namespace trellis {
 
 namespace {
@@ -13,6 +15,14 @@ constexpr unsigned long SeveralLinesReadOnly = 0x4080000;
 constexpr int Width = 80; // in characters, as the next in lines
 constexpr int MostReasonLines = 8;
 constexpr int MostRepairLines = 6;
+
+// To choose in an exclusive category rejects its other options; they are given up with the choice, unsaid.
+bool GoesWithAChoice(const ZOLParameter& rejection, const SelectionReasons::Parameters& repair) {
+    return rejection.IsNot() && rejection.GetCategoryExclusivity() &&
+           std::ranges::any_of(repair, [&](const ZOLParameter& other) {
+               return !other.IsNot() && other.GetCategory() == rejection.GetCategory();
+           });
+}
 
 } // namespace
 
@@ -56,9 +66,11 @@ ZOLUnicodeString RepairDialog::Text(const char* key, const ZOLListValZOLUnicodeS
 ZOLUnicodeString RepairDialog::LineOf(const SelectionReasons::Parameters& repair) const {
     ZOLUnicodeString line;
     for (const ZOLParameter& choice : repair) {
+        if (GoesWithAChoice(choice, repair))
+            continue;
         const ZOLUnicodeString text = Text(choice.IsNot() ? "GiveUpRejection.Msg" : "GiveUpChoice.Msg",
                                            {choice.GetOption(), choice.GetCategory()});
-        line += line.IsEmpty() ? text : Text("And.Msg") + text;
+        line = line.IsEmpty() ? text : Text("And.Msg", {line, text});
     }
     return line;
 }

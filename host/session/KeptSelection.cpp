@@ -9,7 +9,7 @@
 #include <cstdio>
 #include <cstring>
 #include <fstream>
-#include <sstream>
+#include <iterator>
 #include <unordered_map>
 
 namespace trellis {
@@ -69,13 +69,13 @@ bool KeptSelection::Write(const std::string& file, ZOLGYRError& error) const {
 
 std::optional<KeptSelection> KeptSelection::Read(const std::string& file, ZOLGYRError& error) {
     std::ifstream input(file, std::ios::binary);
-    std::ostringstream text;
-    if (!input || !(text << input.rdbuf())) {
+    const std::string text{std::istreambuf_iterator<char>(input), {}};
+    if (!input) {
         error.Set(NotRead, 0, {file});
         return std::nullopt;
     }
     try {
-        const Json json = Json::parse(text.str());
+        const Json json = Json::parse(text);
         if (json.at(VersionKey) != Version)
             error.Set(NoSelection, 0, {file, "it is of a later version"});
         else

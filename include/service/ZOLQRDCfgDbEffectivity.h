@@ -2,8 +2,8 @@
 
 #include "values/ZOLQRDCfgEffectivity.h"
 
-// ZOLQRDCfgDbEffectivity: a stored effectivity as a query reads it: the state of that moment, without a way back to the
-// stored object.
+// ZOLQRDCfgDbEffectivity: a stored effectivity as a query reads it: the state of that moment, without a way
+// back to the stored object.
 class TRELLIS_API ZOLQRDCfgDbEffectivity {
 public:
     explicit ZOLQRDCfgDbEffectivity(ZOLQRDCfgEffectivity term) : _term(std::move(term)) {}

@@ -53,7 +53,8 @@ public:
     // editor of one line. Refused when the limit or the verify function do not let it in.
     ZOLUserResult UserInsert(const ZOLUnicodeString& pasted);
     ZOLUserResult UserSelectText(int start, int end);
-    // Return: confirms, or begins a new line in an editor of several.
+    // Return: confirms, or begins a new line in an editor of several. Where nobody takes the confirmation, Return means
+    // the whole dialog, and its default button is pressed.
     ZOLUserResult UserEnter();
     // The user goes elsewhere: confirms when something was typed since the last confirmation, unless the
     // editor cannot be acted on any more.
@@ -65,7 +66,8 @@ public:
 
 private:
     bool Verify(const ZOLUnicodeString& text);
-    void Confirm();
+    // Whether anybody took it.
+    bool Confirm();
 
     ZOLUnicodeString _text;
     int _start = 0;

@@ -16,7 +16,7 @@ class ZOLGraphViewer;
 
 // Keys that do something beyond text. In a graph they act on the node that has the focus.
 enum class ZOLUserKey {
-    Return,    // confirms an editor, activates a selected row, presses a button; else the default button
+    Return,    // confirms a heard editor, activates a selected row, presses a button; else the default button
     Escape,    // closes an open menu, else acts as the close box of a window without menu bar
     Space,     // presses a button, switches a check or radio button; clicks the node of a graph
     Backspace, // takes the selected text, or the character before the caret

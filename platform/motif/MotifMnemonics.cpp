@@ -45,6 +45,16 @@ bool IsButton(ZOLDialog* dialog) {
     return As<ZOLDlgPushButton>(dialog) || As<ZOLDlgToggleButton>(dialog) || As<ZOLDlgTabPage>(dialog);
 }
 
+// A toggle that was titled by code stands for one of many things of the user's own: letters for these would change
+// with them, and leave none for the buttons.
+bool IsDatum(ZOLDialog* dialog) {
+    ZOLUnicodeString text;
+    return As<ZOLDlgToggleButton>(dialog) &&
+           !(dialog->GetResourceValueFromKey((std::string(dialog->GetName().View()) + ".Title").c_str(),
+                                             text) &&
+             text == dialog->GetTitle());
+}
+
 const DialogButtons* RowOf(const ZOLDialog& window) {
     if (const auto* box = dynamic_cast<const ZOLDlgNotify*>(&window))
         return &box->GetButtons();
@@ -82,7 +92,7 @@ void AddContent(const ZOLDialog& holder, Choices& choices) {
             As<ZOLDlgTabPage>(child); // its title stands there also while another one is shown
         if (child->GetVisibility() != ZOLShown || child->IsBeingDestroyed() || !child->IsLaidOut())
             continue;
-        if (isPage || IsButton(child))
+        if (isPage || (IsButton(child) && !IsDatum(child)))
             choices.push_back({child, ZOLDialogButton::None, child->GetTitle()});
         else if (IsField(child) && label)
             choices.push_back({label, ZOLDialogButton::None, label->GetTitle(), child});

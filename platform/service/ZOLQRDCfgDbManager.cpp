@@ -26,7 +26,8 @@ Ids IdsOf(const std::vector<RecordOf<Row>>& records) {
     return ids;
 }
 
-// What lies on the links below parts, each once, by one query each for links, for what they hold and for that.
+// What lies on the links below parts, each once, by one query each for links, for what they hold and for
+// that.
 Effectivities Below(Workspace& workspace, const Ids& parts, int kinds, ZOLGYRError& error) {
     const auto links = workspace.Find(StoreQuery<LinkRow>().WhereIn(&LinkRow::parent, parts), error);
     const auto holds = workspace.Find(

@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <optional>
 #include <unordered_set>
+#include <vector>
 
 namespace {
 
@@ -22,34 +24,48 @@ bool IsReadable(const TrellisOptionList& list) {
             IsComplete(list.descriptions, list.count));
 }
 
-// Whether something stands in `shown` that is not its own to be freed: something given, or one text twice.
-bool SharesMemory(const TrellisOptionList& given, const TrellisOptionList& shown) {
-    std::unordered_set<const void*> seen;
-    const auto add = [&seen](const TrellisOptionList& list) {
-        bool isNew = true;
-        for (char** texts : {list.names, list.categories, list.descriptions}) {
-            isNew &= !texts || seen.insert(texts).second;
-            for (int32_t i = 0; texts && i < list.count; ++i)
-                isNew &= !texts[i] || seen.insert(texts[i]).second;
-        }
-        return isNew;
-    };
-    add(given);
-    return !add(shown);
+// All arrays and texts of a list.
+std::vector<void*> MemoryOf(const TrellisOptionList& list) {
+    std::vector<void*> memory;
+    for (char** texts : {list.names, list.categories, list.descriptions}) {
+        if (!texts)
+            continue;
+        memory.push_back(texts);
+        for (int32_t i = 0; i < list.count; ++i)
+            if (texts[i])
+                memory.push_back(texts[i]);
+    }
+    return memory;
 }
 
-int Ask(const TrellisControls& controls, const TrellisIdentity& identity, const ObjID& objId,
-        const TrellisOptionList& given, TrellisOptionList& shown, bool& isReadable) {
+// Empties `shown` when something stands in it that cannot be freed with it: something given, or something twice.
+bool DropShared(const TrellisOptionList& given, TrellisOptionList& shown) {
+    const std::vector<void*> others = MemoryOf(given);
+    const std::unordered_set<void*> notOwn(others.begin(), others.end());
+    const std::vector<void*> all = MemoryOf(shown);
+    std::unordered_set<void*> own;
+    for (void* each : all)
+        if (!notOwn.contains(each))
+            own.insert(each);
+    if (own.size() == all.size())
+        return false;
+    for (void* each : own)
+        std::free(each);
+    shown = {};
+    return true;
+}
+
+// The status of the site's function; nothing when what it gave back cannot be used.
+std::optional<int> Ask(const TrellisControls& controls, const TrellisIdentity& identity, const ObjID& objId,
+                       const TrellisOptionList& given, TrellisOptionList& shown) {
     try {
         const int status = controls.optionListToDisplay(&identity, &objId, &given, &shown);
-        if (SharesMemory(given, shown))
-            shown = {}; // rather lost than freed twice
-        else
-            isReadable = IsReadable(shown);
-        return status;
+        if (!DropShared(given, shown) && (status != 0 || IsReadable(shown)))
+            return status;
     } catch (...) {
-        return Failed;
+        shown = {}; // in a state that nobody knows
     }
+    return std::nullopt;
 }
 
 void FreeTexts(char**& texts, int32_t count) {
@@ -69,10 +85,8 @@ int ZOLDMUsrMethod::OptionListToDisplay(const char* person, const char* role, co
     if (!controls || !controls->optionListToDisplay)
         return 0;
     const TrellisIdentity identity = {person, role, organization};
-    bool isReadable = false;
-    const int status = Ask(*controls, identity, objId, given, shown, isReadable);
-    if (isReadable)
-        return status;
+    if (const std::optional<int> status = Ask(*controls, identity, objId, given, shown))
+        return *status;
     error.Set(AnswerUnreadable, 0, {"optionListToDisplay"});
     return Failed;
 }

@@ -49,17 +49,13 @@ ZOLUserResult Escape(ZOLDialog& dialog, ZOLUserKey) {
 }
 
 ZOLUserResult Return(ZOLDialog& dialog, ZOLUserKey) {
-    if (auto* editor = As<ZOLDlgEditor>(dialog))
+    if (auto* editor = As<ZOLDlgEditor>(dialog); editor && !editor->IsReadOnly())
         return editor->UserEnter();
     if (auto* button = As<ZOLDlgPushButton>(dialog))
         return button->UserActivate();
     if (auto* list = As<ZOLDlgMultiList>(dialog); list && list->GetSelectCount() == 1)
         return list->UserActivate(list->GetSelect());
-    auto* window = const_cast<ZOLDialog*>(dialog.GetHoldingWindow());
-    if (auto* box = dynamic_cast<ZOLDlgNotify*>(window))
-        return box->UserPress(ZOLDialogButton::OK);
-    auto* holder = dynamic_cast<ZOLDlgDialog*>(window);
-    return holder ? holder->UserReturn() : meansNothing;
+    return PressDefaultButton(dialog);
 }
 
 // Going on to the next widget leaves an editor; of other widgets nobody hears.
@@ -224,6 +220,14 @@ ZOLUserResult PressKey(ZOLDialog& dialog, ZOLUserKey key) {
         if (known.key == key)
             return known.press(dialog, key);
     return InWidget(dialog, key);
+}
+
+ZOLUserResult PressDefaultButton(const ZOLDialog& dialog) {
+    auto* window = const_cast<ZOLDialog*>(dialog.GetHoldingWindow());
+    if (auto* box = dynamic_cast<ZOLDlgNotify*>(window))
+        return box->UserPress(ZOLDialogButton::OK);
+    auto* holder = dynamic_cast<ZOLDlgDialog*>(window);
+    return holder ? holder->UserReturn() : meansNothing;
 }
 
 } // namespace trellis

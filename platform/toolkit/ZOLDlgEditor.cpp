@@ -6,6 +6,7 @@
 #include "toolkit/EscapedException.h"
 #include "toolkit/LayoutMetrics.h"
 #include "toolkit/TextMeasure.h"
+#include "toolkit/UserKeys.h"
 
 #include <algorithm>
 
@@ -141,7 +142,8 @@ ZOLUserResult ZOLDlgEditor::UserEnter() {
         return ZOLUserResult::ReadOnly;
     if (HasSeveralLines())
         return UserInsert("\n");
-    Confirm();
+    if (!Confirm())
+        trellis::PressDefaultButton(*this);
     return ZOLUserResult::Done;
 }
 
@@ -151,9 +153,9 @@ void ZOLDlgEditor::UserLeave() {
         Confirm();
 }
 
-void ZOLDlgEditor::Confirm() {
+bool ZOLDlgEditor::Confirm() {
     _isUnconfirmed = false;
-    SendUserNotification(_modifyNotification);
+    return SendNotification(nullptr, &_modifyNotification) != 0;
 }
 
 const char* ZOLDlgEditor::GetKind() const {

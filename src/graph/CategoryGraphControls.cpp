@@ -101,7 +101,8 @@ void ZOLDlgCategoryGraph::BuildControls() {
 void ZOLDlgCategoryGraph::BuildConfigMode() {
     _configModeFrame = new ZOLDlgFrame(_optionsFrame, "ConfigModeFrame");
     _configModeLabel = new ZOLDlgLabel(_configModeFrame, "ConfigMode");
-    _configModeMenu = new ZOLDlgContextualMenu(_configModeLabel, "ConfigModeCtxtMenu");
+    // Of all controls, so that the Menu key opens it from any of them: a label takes no focus.
+    _configModeMenu = new ZOLDlgContextualMenu(_optionsFrame, "ConfigModeCtxtMenu");
     UnlockedConfigMode();
 }
 
@@ -203,8 +204,10 @@ void ZOLDlgCategoryGraph::EnableRules() {
 }
 
 void ZOLDlgCategoryGraph::HideConfigMode() {
-    if (_configModeFrame)
-        _configModeFrame->SetVisibility(ZOLHidden);
+    if (!_configModeFrame)
+        return;
+    _configModeFrame->SetVisibility(ZOLHidden);
+    _configModeMenu->SetVisibility(ZOLHidden);
 }
 
 void ZOLDlgCategoryGraph::LockedConfigMode() {

@@ -41,38 +41,39 @@ ZOLListValZOLIQrdCategory_var ZOLDlgCategoryGraph::AllCategories() const {
 
 void ZOLDlgCategoryGraph::CategoriesCB(ZOLCommand*, ZOLNotification*, void*) {
     ZOLInteractiveApplication::GetApplication()->SetBusyCursor();
-    if (_checkList)
-        _checkList->RequestDelayedDestruction();
+    if (ZOLCommand* former = _checkList.Get())
+        former->RequestDelayedDestruction();
     ZOLListValZOLIQrdCategory_var shown;
     _viewer->GetCategories(shown, 0);
     std::unordered_set<ZOLUnicodeString> names;
     for (const ZOLIQrdCategory_var& category : shown)
         names.insert(category->GetName());
-    _checkList = new ZOLDlgCheckList(this, Text("ShowCategories.Title"), AllCategories());
+    auto* list = new ZOLDlgCheckList(this, Text("ShowCategories.Title"), AllCategories());
     ZOLListValZOLIQrdCategory_var listed;
-    _checkList->GetList(listed);
+    list->GetList(listed);
     ZOLRawCollint positions;
     for (int i = 1; i <= listed.Size(); ++i)
         if (names.contains(listed[i]->GetName()))
             positions.Append(i);
-    _checkList->SetChecked(positions);
-    AddAnalyseNotificationCB(_checkList, _checkList->GetDiaOKNotification(),
+    list->SetChecked(positions);
+    AddAnalyseNotificationCB(list, list->GetDiaOKNotification(),
                              ZOL_CALLBACK(&ZOLDlgCategoryGraph::ApplyCategoriesCB));
-    _checkList->SetVisibility(ZOLShown);
+    list->SetVisibility(ZOLShown);
+    _checkList = trellis::WeakCommand(list);
 }
 
-void ZOLDlgCategoryGraph::ApplyCategoriesCB(ZOLCommand*, ZOLNotification*, void*) {
+void ZOLDlgCategoryGraph::ApplyCategoriesCB(ZOLCommand* sender, ZOLNotification*, void*) {
+    auto* list = static_cast<ZOLDlgCheckList*>(sender);
     ZOLListValZOLIQrdCategory_var checked;
     ZOLListValZOLIQrdCategory_var hidden;
-    _checkList->GetChecked(checked);
-    _checkList->GetList(hidden);
+    list->GetChecked(checked);
+    list->GetList(hidden);
     hidden.Remove(checked);
     ZOLDMInstance product;
     _context->GetCurrentProduct(product);
     if (_filtersCategories == 1 && product.GetCoid() > 0)
         WriteCategoryFile(product, checked, hidden);
-    _checkList->RequestDelayedDestruction();
-    _checkList = nullptr;
+    list->RequestDelayedDestruction();
     if (_search) { // its list is that of the old categories
         _search->RequestDelayedDestruction();
         _search = nullptr;

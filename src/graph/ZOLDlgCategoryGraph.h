@@ -6,7 +6,6 @@
 #include "model/ZOLDMInstance.h"
 
 class ZOLDlgCheckButton;
-class ZOLDlgCheckList;
 class ZOLDlgCombo;
 class ZOLDlgContextualMenu;
 class ZOLDlgDialog;
@@ -215,7 +214,7 @@ private:
     ZOLDlgCheckButton* _directiveRulesCheck = nullptr;
     ZOLDlgCheckButton* _packagesCheck = nullptr;
     ZOLDlgCheckButton* _matricesCheck = nullptr;
-    ZOLDlgCheckList* _checkList = nullptr;
+    trellis::WeakCommand _checkList; // ends itself where the user takes nothing
     ZOLDlgDialog* _search = nullptr;
     ZOLQRDDlgOptionList* _searchList = nullptr;
     ZOLDlgDialog* _legend = nullptr;

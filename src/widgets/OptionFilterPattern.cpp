@@ -21,8 +21,8 @@ bool OptionFilterPattern::Fits(const ZOLUnicodeString& value) const {
     return _hasStar ? FitsPieces(value.Bytes()) : value == _text;
 }
 
-// The first place of each piece is taken, also of the first one behind a leading "*": a value that begins with it does
-// not fit, though the piece may come again later.
+// The first place of each piece is taken, also of the first one behind a leading "*": a value that begins
+// with it does not fit, though the piece may come again later.
 bool OptionFilterPattern::FitsPieces(const std::string& value) const {
     std::size_t rest = 0;
     for (std::size_t i = 0; i < _pieces.size(); ++i) {

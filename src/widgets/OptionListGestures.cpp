@@ -16,7 +16,8 @@ namespace {
 
 constexpr int NotRemovable = 40010;
 constexpr int ReplaceLine = 0;
-// Says neither on nor off: the button is put off with it, and whoever asks for the state can tell it from a click.
+// Says neither on nor off: the button is put off with it, which calls back here, and whoever asks for the
+// state can tell it from a click.
 constexpr int PutOffByTheOther = 16;
 
 std::vector<int> SelectedRows(const ZOLDlgList& list) {
@@ -58,20 +59,15 @@ void ZOLQRDDlgOptionList::FilterCB(ZOLCommand*, ZOLNotification*, void*) {
 
 void ZOLQRDDlgOptionList::CheckUsedOnlyCB(ZOLCommand*, ZOLNotification*, void*) {
     _OnlyUsed = _usedOnly->IsOn();
-    if (_OnlyUsed) {
-        _isAssemblyOnly = false;
-        if (_assemblyUsedOnly)
-            _assemblyUsedOnly->SetState(PutOffByTheOther, 1);
-    }
+    if (_OnlyUsed && _assemblyUsedOnly)
+        _assemblyUsedOnly->SetState(PutOffByTheOther, 1);
     Display();
 }
 
 void ZOLQRDDlgOptionList::CheckAssemblyUsedOnlyCB(ZOLCommand*, ZOLNotification*, void*) {
     _isAssemblyOnly = _assemblyUsedOnly->IsOn();
-    if (_isAssemblyOnly) {
-        _OnlyUsed = 0;
+    if (_isAssemblyOnly)
         _usedOnly->SetState(PutOffByTheOther, 1);
-    }
     Display();
 }
 

@@ -32,8 +32,8 @@ using ProductHistory = std::vector<ProductHistoryEntry>;
 // "[key] leading-string xcoid".
 class ProductHistoryFile {
 public:
-    // Any bytes are legal. Blanks before, between and behind the three items do not count; a key loses its first and last
-    // character, whatever they are. A line with fewer items, and one without a line feed, does not count.
+    // Any bytes are legal. Blanks before, between and behind the three items do not count; a key loses its first
+    // and last character, whatever they are. A line with fewer items, and one without a line feed, does not count.
     static ProductHistory Parse(const std::string& text);
     // Entries that are not writable are left out.
     static std::string Format(const ProductHistory& entries);

@@ -167,10 +167,6 @@ void ZOLDlgProdContextManager::SelectProduct(const int index) {
     _index = index;
     if (_index > 0)
         _LastUsedProductIndex = _UsedProductList.Locate(_history[_index]);
-    ShowCurrent();
-}
-
-void ZOLDlgProdContextManager::ShowCurrent() {
     _name->SetTitle(_index > 0 ? NameOf(_history[_index]) : Text("NoProduct.Title"));
 }
 

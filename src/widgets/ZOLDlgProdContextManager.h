@@ -29,8 +29,8 @@ public:
     ZOLNotification* GetChangeProductNotification() { return &_changeNotification; }
     // 1, or 0 and an instance of nothing while there is none.
     int GetCurrentProduct(ZOLDMInstance& product) const;
-    // The product that was chosen last in any frame, if it is among those that the latest frame offers; else 0 and an
-    // instance of nothing.
+    // The product that became current last in any frame; 0 and an instance of nothing when a frame began without one
+    // since.
     static int GetLastUsedProduct(ZOLDMInstance& product);
 
     // Gives the frame other products, of which the one used last becomes current, else the first.
@@ -54,7 +54,6 @@ private:
     void Build();
     void TakeProducts(const ZOLListValZOLDMInstance& products);
     int JoinUsedProducts(int index);
-    void ShowCurrent();
     void SelectProduct(const int index);
     void EmptyMenu();
     ZOLDlgPushItem* AddItem(const char* name, const ZOLUnicodeString& title,

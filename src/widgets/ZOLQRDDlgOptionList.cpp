@@ -100,9 +100,13 @@ void ZOLQRDDlgOptionList::UserExitForOptList(Terms& options, ZOLGYRError& error)
 
 void ZOLQRDDlgOptionList::ChangeDictionaryCB(ZOLCommand*, ZOLNotification*, void*) {
     ZOLDMInstance product;
-    _context->GetCurrentProduct(product);
     ZOLGYRError error;
-    TakeDictionary(product, {}, error);
+    if (_context->GetCurrentProduct(product)) {
+        TakeDictionary(product, {}, error);
+    } else {
+        _product = product;
+        Take({}, {}, 0);
+    }
     Display(0, error);
 }
 

@@ -17,12 +17,12 @@ class ZOLDlgProdContextManager;
 class ZOLDlgPushItem;
 class ZOLDlgSelectorList;
 
-// ZOLQRDDlgOptionList: the frame in which a user picks options of a dictionary. Options are terms with name, category,
-// description and used mark; a name has one line, whatever categories it comes from, and what happens to a line happens
-// to all terms of its name.
+// ZOLQRDDlgOptionList: the frame in which a user picks options of a dictionary. Options are terms with name,
+// category, description and used mark; a name has one line, whatever categories it comes from, and what
+// happens to a line happens to all terms of its name.
 //
-// The choice to see used options only, the texts of the filter and the clipboard belong to all panels of the process: a
-// new panel begins with those of the last one. The filter begins with "*", which shows everything.
+// The choice to see used options only, the texts of the filter and the clipboard belong to all panels of the
+// process: a new panel begins with those of the last one. The filter begins with "*", which shows everything.
 class ZOLQRDDlgOptionList : public ZOLDlgFrame {
     ZOL_META_OBJECT(ZOLQRDDlgOptionList, ZOLDlgFrame)
 public:
@@ -35,8 +35,8 @@ public:
         ProductContextPiece = 16 // the user chooses the product
     };
 
-    // instance: the product whose dictionary and assembly are meant, copied; may be null. Nothing is listed before one
-    // of the operations below, but with a context of products that knows one.
+    // instance: the product whose dictionary and assembly are meant, copied; may be null. Nothing is listed
+    // before one of the operations below, but with a context of products that knows one.
     ZOLQRDDlgOptionList(ZOLDialog* parent, const ZOLString& name, const int iStyle, ZOLDMInstance* instance);
 
     ZOLString GetResourceFilename(int level) const override;
@@ -46,8 +46,8 @@ public:
     void GetAvailable(ZOLListValZOLQRDCfgEffectivity& available) const { available = _allAvailable; }
     // The clipboard of all panels.
     void GetOptionsToPaste(ZOLListValZOLQRDCfgEffectivity& options) const { options = _OptToPaste; }
-    // The terms of the lines that are selected in the available list, in the order of the lines; the first term of a
-    // name that stands for several.
+    // The terms of the lines that are selected in the available list, in the order of the lines; the first
+    // term of a name that stands for several.
     ZOLListValZOLQRDCfgEffectivity GetAvailableSelect() const;
 
     // What this panel sends to its father:
@@ -61,16 +61,18 @@ public:
     // Nothing is selected in either list from now on; sends nothing.
     void DeselectAll();
 
-    // Lists the options of a product's dictionary, as the site lets them be seen, and makes it the product of this
-    // panel. A failure is shown, and the lists stay. The second form selects options besides (see SetSelected).
+    // Lists the options of a product's dictionary, as the site lets them be seen, and makes it the product of
+    // this panel. A failure is shown, and the lists stay. The second form selects options besides (see
+    // SetSelected).
     void UpdateDictionary(const ZOLDMInstance& product);
     void UpdateDictionary(const ZOLDMInstance& product, const ZOLListValZOLQRDCfgEffectivity& selected);
-    // Lists these options, those that the filter lets pass; an available one whose name is among the selected goes to
-    // these. iNotRemovable: non-zero for selected options that the user cannot take out again (40010).
+    // Lists these options, those that the filter lets pass; an available one whose name is among the selected
+    // goes to these. iNotRemovable: non-zero for selected options that the user cannot take out again
+    // (40010).
     void SetList(const ZOLListValZOLQRDCfgEffectivity& available,
                  const ZOLListValZOLQRDCfgEffectivity& selected, const int& iNotRemovable);
-    // Selects exactly these: those that are available go over with their category and description, the others are added
-    // as they are given.
+    // Selects exactly these: those that are available go over with their category and description, the others
+    // are added as they are given.
     void SetSelected(const ZOLListValZOLQRDCfgEffectivity& selected, const int& iNotRemovable);
     // The selected list is titled as one whose options count all together.
     void SetANDSelectedTitle();
@@ -109,21 +111,22 @@ private:
     void MenuCopyCB(ZOLCommand* sender, ZOLNotification* notification, void* data);
     void MenuPasteCB(ZOLCommand* sender, ZOLNotification* notification, void* data);
 
-    // What the operations that fill the panel have in common, without showing it. TakeDictionary answers false, with a
-    // code, when the dictionary cannot be read; nothing has changed then.
+    // What the operations that fill the panel have in common, without showing it. TakeDictionary answers
+    // false, with a code, when the dictionary cannot be read; nothing has changed then.
     bool TakeDictionary(const ZOLDMInstance& product, const Terms& selected, ZOLGYRError& error);
     void Take(const Terms& available, const Terms& selected, int isNotRemovable);
     // Lets the site replace the options; error: what is to be shown of a library that cannot be used.
     void UserExitForOptList(Terms& options, ZOLGYRError& error) const;
     // Appends what passes and is not there yet.
     void SyntaxicFilter(const Terms& from, Terms& to) const;
-    // Writes both lists anew, the available one from that line on, then shows the error. Nothing may follow a call: the
-    // panel may be gone.
+    // Writes both lists anew, the available one from that line on, then shows the error. Nothing may follow a
+    // call: the panel may be gone.
     void Display(int firstLine = 0, ZOLGYRError error = {});
     void ShowSelected();
     void ShowAvailable();
     bool IsLeftOut(const ZOLQRDCfgEffectivity& term) const;
-    // The column at `position`, that of names or categories, changes places with the other when it is not the first.
+    // The column at `position`, that of names or categories, changes places with the other when it is not the
+    // first.
     void BringToFirstColumn(int& position, int& other);
     void Transfer(const ZOLDlgSelectorList& list, Terms& from, Terms& to);
     void Transfer(const ZOLDlgMultiList& list, Terms& from, Terms& to);

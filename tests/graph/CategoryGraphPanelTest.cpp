@@ -196,7 +196,7 @@ TEST_F(CategoryGraphPanel, AnotherModeBeginsAnewWithTheDefaults) {
     Click("COLOUR", "RED");
     Press("ColorLegend");
     EXPECT_NE(Driver::Describe(Find("ColorLegendPanel")).find("Nothing selected"), std::string::npos);
-    Driver::Menu(Find("ConfigMode"), "AdvancedConfigMode");
+    Driver::Menu(Find("OptionsFrame"), "AdvancedConfigMode");
     EXPECT_EQ(Selection(), "+BELL +RACK ");
     EXPECT_TRUE(panel->IsAdvancedConfigMode());
     EXPECT_THROW(Find("ColorLegendPanel"), Driver::Refused) << "its texts are those of the other mode";
@@ -204,9 +204,9 @@ TEST_F(CategoryGraphPanel, AnotherModeBeginsAnewWithTheDefaults) {
     EXPECT_NE(Driver::Describe(Find("ColorLegendPanel")).find("Selected or undefined"), std::string::npos);
     Driver::Ok(Find("ColorLegendPanel"));
     panel->LockedConfigMode();
-    EXPECT_THROW(Driver::Menu(Find("ConfigMode"), "SimpleConfigMode"), Driver::Refused);
+    EXPECT_THROW(Driver::Menu(Find("OptionsFrame"), "SimpleConfigMode"), Driver::Refused);
     panel->UnlockedConfigMode();
-    Driver::Menu(Find("ConfigMode"), "SimpleConfigMode");
+    Driver::Menu(Find("OptionsFrame"), "SimpleConfigMode");
     EXPECT_FALSE(panel->IsAdvancedConfigMode());
 }
 
@@ -264,6 +264,8 @@ TEST_F(CategoryGraphPanel, CategoriesTakenOutStayOutInTheNextPanel) {
     Show();
     Click("LAMP", "LED");
     Press("OptSearch");
+    Press("Categories");
+    Driver::Cancel(Find("CheckListPanel"));
     Press("Categories");
     Driver::Toggle(Find("CheckListPanel/EltCheck[3]"), false);
     Driver::Ok(Find("CheckListPanel"));

@@ -38,9 +38,23 @@ TEST(UndoRingTest, ReachesNineStatesBackAndAllOfThemForthAgain) {
     EXPECT_EQ(ring.Redo(), nullptr);
 }
 
+// What was taken back is behind the new state then, as if it were older.
+TEST(UndoRingTest, AStateSavedAfterUndoOnceItHasWrappedMovesTheOldest) {
+    UndoRing ring;
+    for (int i = 1; i <= 12; ++i)
+        Save(ring, i);
+    for (int i = 0; i < 3; ++i)
+        ring.Undo();
+    Save(ring, 100);
+    EXPECT_EQ(ring.Redo(), nullptr);
+    for (const int number : {9, 8, 7, 6, 5, 4, 3, 12, 11})
+        EXPECT_EQ(NumberOf(ring.Undo()), number);
+    EXPECT_EQ(ring.Undo(), nullptr);
+}
+
 // An unbounded list is the model as long as the ring has not wrapped, or nothing is saved after an undo once it has.
 TEST(UndoRingTest, BehavesAsAnUnboundedListWithinItsReach) {
-    rc::check([](const std::vector<int>& gestures) {
+    EXPECT_TRUE(rc::check([](const std::vector<int>& gestures) {
         UndoRing ring;
         std::vector<int> states;
         std::size_t shown = 0; // states up to here are in force
@@ -64,7 +78,7 @@ TEST(UndoRingTest, BehavesAsAnUnboundedListWithinItsReach) {
                 RC_ASSERT(NumberOf(ring.Redo()) == (canRedo ? states[shown - 1] : -1));
             }
         }
-    });
+    }));
 }
 
 } // namespace trellis::test

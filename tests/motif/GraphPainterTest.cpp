@@ -19,6 +19,8 @@ using trellis::GraphFrame;
 using trellis::LayoutPoint;
 using trellis::LayoutRectangle;
 using trellis::LayoutSize;
+using trellis::NodeAlert;
+using trellis::NodeMark;
 
 class GraphPainterTest : public testing::Test {
 protected:
@@ -100,6 +102,47 @@ TEST_F(GraphPainterTest, EveryStateOfANodeCanBeToldWithoutColour) {
         looks.insert(form);
     }
     EXPECT_EQ(looks.size(), std::size(states));
+}
+
+TEST_F(GraphPainterTest, EveryMarkCanBeToldWithoutColour) {
+    std::set<std::vector<bool>> looks;
+    // Form alone: all on the same ground.
+    root->setColor(6);
+    const auto look = [&](const char* pixmap, NodeMark mark, NodeAlert alert) {
+        root->setPixmap(pixmap);
+        root->setMark(mark, alert);
+        std::vector<bool> form;
+        for (const int grey : Painted(Picture())->Greys(OnScreen(root)))
+            form.push_back(grey < 100);
+        looks.insert(form);
+    };
+    constexpr NodeAlert alerts[] = {NodeAlert::None, NodeAlert::Irresolution, NodeAlert::Conflict};
+    for (const NodeMark mark : {NodeMark::Undecided, NodeMark::ChosenByUser, NodeMark::ChosenByRule,
+                                NodeMark::RejectedByUser, NodeMark::RejectedByRule, NodeMark::Ignored})
+        for (const NodeAlert alert : alerts)
+            look(" ", mark, alert);
+    EXPECT_EQ(looks.size(), 18U) << "options";
+    for (const NodeMark mark : {NodeMark::Undecided, NodeMark::Decided, NodeMark::Missing, NodeMark::Ignored})
+        look("diropen.rgb", mark, NodeAlert::None);
+    for (const NodeAlert alert : alerts)
+        look("diropen.rgb", NodeMark::Decided, alert);
+    EXPECT_EQ(looks.size(), 18U + 6U) << "groups; an alert comes before what is decided";
+    root->setColor(112);
+    look(" ", NodeMark::Undecided, NodeAlert::None);
+    EXPECT_EQ(looks.size(), 18U + 6U + 1U) << "found by a search";
+}
+
+TEST_F(GraphPainterTest, TextsCanBeReadOnEveryColour) {
+    for (const NodeMark mark : {NodeMark::None, NodeMark::Ignored, NodeMark::RejectedByRule})
+        for (const int colour : {1, 2, 4, 6, 7, 12, 46, 66, 112, 254}) {
+            root->setMark(mark);
+            root->setColor(colour);
+            const LayoutRectangle place = OnScreen(root);
+            const std::vector<int> greys =
+                Painted(Picture())->Greys({place.x + place.width - 45, place.y + 3, 30, place.height - 6});
+            const auto [darkest, lightest] = std::minmax_element(greys.begin(), greys.end());
+            EXPECT_GT((*lightest + 12.75) / (*darkest + 12.75), 4.5) << colour;
+        }
 }
 
 TEST_F(GraphPainterTest, ArcsDifferByLineTypeAndBySomethingElseThanColour) {

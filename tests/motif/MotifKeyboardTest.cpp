@@ -50,6 +50,21 @@ protected:
     static inline ScreenUser* _user = nullptr;
 };
 
+TEST_F(MotifKeyboardTest, ReturnInAFieldThatNobodyTakesPressesTheDefaultButton) {
+    ListeningPanel* panel = OpenPanel();
+    panel->Listen(panel, panel->GetDiaOKNotification());
+    auto* name = new ZOLDlgEditor(panel, "Name");
+    auto* filter = new ZOLDlgEditor(panel, "Filter");
+    panel->Listen(filter, filter->GetEditModifyNotification());
+    _user->Click(*filter);
+    _user->Type("b\n");
+    EXPECT_EQ(panel->heard, Heard{"Filter"});
+    _user->Click(*name);
+    _user->Type("bo\n");
+    EXPECT_EQ(panel->heard, (Heard{"Filter", "Panel"}));
+    EXPECT_EQ(name->GetText(), "bo");
+}
+
 TEST_F(MotifKeyboardTest, TabWalksThroughEverythingInTheOrderOfTheLayoutAndBack) {
     ListeningPanel* panel = OpenPanel();
     auto* name = new ZOLDlgEditor(panel, "Name");

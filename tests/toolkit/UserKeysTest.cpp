@@ -112,6 +112,27 @@ TEST_F(UserKeysTest, TabLeavesAnEditorWhichConfirmsOnce) {
     EXPECT_EQ(panel->heard.size(), 1u);
 }
 
+TEST_F(UserKeysTest, ReturnInAFieldPressesTheDefaultButtonUnlessSomebodyTakesTheField) {
+    panel->Listen(panel, panel->GetDiaOKNotification());
+    auto* name = new ZOLDlgEditor(panel, "Name");
+    auto* filter = new ZOLDlgEditor(panel, "Filter");
+    panel->Listen(filter, filter->GetEditModifyNotification());
+    ZOLUserDriver::Type(filter, "b*");
+    ZOLUserDriver::Key(filter, Return);
+    EXPECT_EQ(panel->heard, Heard{"Filter"}) << "a list shows what passes; the dialog stays";
+    ZOLUserDriver::Type(name, "bo");
+    ZOLUserDriver::Enter(name);
+    ZOLUserDriver::Key(new ZOLDlgEditor(panel, "Fixed", 0x4000000), Return);
+    EXPECT_EQ(panel->heard, (Heard{"Filter", "Panel", "Panel"}));
+
+    ZOLUserDriver::Key(new ZOLDlgEditor(panel, "Notes", 0x80000), Return);
+    panel->SetOKSensitivity(ZOLGreyed);
+    ZOLUserDriver::Key(name, Return);
+    panel->SetDefaultButton(ZOLDialogButton::None);
+    ZOLUserDriver::Key(name, Return);
+    EXPECT_EQ(panel->heard.size(), 3U);
+}
+
 TEST_F(UserKeysTest, KeysMoveTheSelectionOfListsAndCombosAmongTheirLines) {
     auto* list = new ZOLDlgMultiList(panel, "List");
     auto* combo = new ZOLDlgCombo(panel, "Combo");

@@ -239,6 +239,22 @@ TEST_F(ZOLGraphTest, PixmapsComeBackAsSetAndThoseThatNameNothingTakeNoRoom) {
     }
 }
 
+TEST_F(ZOLGraphTest, AMarkHasItsRoomFromTheStartAndIsToldInWords) {
+    const trellis::TextMeasure cells;
+    ZOLGraphNode* node = Node("node");
+    _graph.add(node);
+    const int bare = GraphDrawing::NodeSize(*node, cells).width;
+    node->setMark(trellis::NodeMark::Undecided);
+    EXPECT_GT(GraphDrawing::NodeSize(*node, cells).width, bare);
+    const GraphDrawing* drawing = &_graph.GetDrawing();
+    node->setMark(trellis::NodeMark::RejectedByRule, trellis::NodeAlert::Conflict);
+    EXPECT_EQ(&_graph.GetDrawing(), drawing) << "another mark moves nothing";
+    EXPECT_EQ(node->toCompose(), "\"node\" grey: rejected by a rule, in conflict");
+    node->setMark(trellis::NodeMark::None);
+    EXPECT_EQ(GraphDrawing::NodeSize(*node, cells).width, bare);
+    EXPECT_EQ(node->toCompose(), "\"node\" grey");
+}
+
 TEST_F(ZOLGraphTest, AnyColourIsKeptAndNamesOutsideThePaletteChangeNothing) {
     ZOLGraphNode* node = Node("node");
     node->setColor(254);

@@ -28,12 +28,12 @@ TEST(RuleParserTest, NamesThatLookLikeRulesAreNames) {
 }
 
 TEST(RuleParserTest, ReadingWhatWasWrittenGivesTheSameRule) {
-    rc::check("directives", [] {
+    EXPECT_TRUE(rc::check("directives", [] {
         const DirectiveTerm rule{*Terms(3), *Terms(3)};
         RuleParser parser(RuleWriter(RuleWords::Catalogue()).Directive(rule));
         RC_ASSERT(parser.Directive() == rule);
-    });
-    rc::check("packages and rows", [] {
+    }));
+    EXPECT_TRUE(rc::check("packages and rows", [] {
         auto references = *rc::gen::nonEmpty(rc::gen::container<std::vector<SignedReference>>(
             rc::gen::construct<SignedReference>(References(), rc::gen::arbitrary<bool>())));
         const RuleWriter writer(RuleWords::Catalogue());
@@ -45,11 +45,11 @@ TEST(RuleParserTest, ReadingWhatWasWrittenGivesTheSameRule) {
                              references[i].isChosen ? references[i].reference.option : ""});
         RuleParser row(writer.Row(cells));
         RC_ASSERT(row.Row() == cells);
-    });
+    }));
 }
 
 TEST(RuleParserTest, AnyTextIsReadOrRefusedWithAPlaceInIt) {
-    rc::check([](const std::string& noise) {
+    EXPECT_TRUE(rc::check([](const std::string& noise) {
         const std::string piece = *rc::gen::elementOf(std::vector<std::string>{
             "if ", "then", "\"A\"", "(", ")", "not", " and ", " or ", "\"", ".", "\"A\".\"B\""});
         const ZOLUnicodeString text(piece + noise + piece);
@@ -61,7 +61,7 @@ TEST(RuleParserTest, AnyTextIsReadOrRefusedWithAPlaceInIt) {
             RC_ASSERT(isRead == (parser.GetFault().number == 0));
             RC_ASSERT(parser.GetFault().offset <= text.Bytes().size());
         }
-    });
+    }));
 }
 
 TEST(RuleParserTest, DeepNestingIsRefusedInsteadOfEndingTheProgram) {

@@ -20,7 +20,7 @@ TEST(RuleTextTest, RenamingChangesReferencesAndNothingElse) {
 }
 
 TEST(RuleTextTest, RenamingThereAndBackGivesTheTextAgain) {
-    rc::check([] {
+    EXPECT_TRUE(rc::check([] {
         const RuleWriter writer(RuleWords::Neutral());
         const ZOLUnicodeString text = writer.Directive({*Terms(2), *Terms(2)});
         const auto references = RuleText::References(text);
@@ -30,7 +30,7 @@ TEST(RuleTextTest, RenamingThereAndBackGivesTheTextAgain) {
         for (const OptionReference& reference :
              RuleText::References(RuleText::RenameOption(text, option, fresh)))
             RC_ASSERT(reference.option != option.Bytes());
-    });
+    }));
 }
 
 TEST(RuleTextTest, TranslationLeavesNamesAndFaultyTextAlone) {
