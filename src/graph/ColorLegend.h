@@ -18,7 +18,7 @@ private:
     struct Look;
 
     ZOLGraphViewer* AddGraph(ZOLDialog* frame, const char* label, const char* name);
-    void AddNode(ZOLGraphViewer& graph, const Look& look);
+    void AddNode(ZOLGraphViewer& graph, const Look& look, const char* pixmap);
 
     ZOLDialog& _dialog;
     bool _isAdvanced;

@@ -132,6 +132,8 @@ public:
     // The categories in one colour: conflict 4 (also when `conflict` is set), irresolution 2, a mandatory category
     // without choice 7, all decided 46, else 1.
     void UpdateRootNodeColor(const int conflict);
+    // Nothing: texts of the graph are not edited.
+    void ElemEdit(ZOLCommand*, ZOLNotification*, void*) {}
 
 private:
     void ElemSelected(ZOLCommand*, ZOLNotification* notification, void*);

@@ -33,9 +33,12 @@ protected:
         Build({});
     }
     void Build(const ZOLListValZOLQRDCfgEffectivity& terms) {
-        const CallbackScope scope;
         ZOLListValZOLIQrdCategory_var categories;
         Manager().GetCategoriesFromDictionary(dictionary, categories);
+        Build(categories, terms);
+    }
+    void Build(const ZOLListValZOLIQrdCategory_var& categories, const ZOLListValZOLQRDCfgEffectivity& terms) {
+        const CallbackScope scope;
         ZOLListValZOLIQrdConfigItem_var dictionaries;
         dictionaries.Append(dictionary);
         viewer->BuildGraph(categories, terms, dictionaries);
@@ -168,6 +171,20 @@ TEST_F(CategoryGraph, TermsTellTheSelectionByMode) {
     for (const ZOLQRDCfgEffectivity& term : all)
         undefined += term.IsUndefined();
     EXPECT_EQ(undefined, 4);
+}
+
+TEST_F(CategoryGraph, AnIgnoredCategoryIsNoChoiceAndIgnoredOnceHoweverOftenItIsTold) {
+    Show(1);
+    Click("COLOUR", "RED");
+    const auto terms = viewer->GetOptions(0);
+    Build({colour}, terms);
+    EXPECT_EQ(Selection(), "-BLUE +RED ") << "what is not shown is not chosen";
+    Build(terms);
+    EXPECT_EQ(viewer->GetIgnoredCategories().Size(), 2);
+    Menu("EXTRA", "ConsiderAllItem");
+    EXPECT_EQ(viewer->GetIgnoredCategories().Locate("EXTRA"), 0);
+    viewer->Undo();
+    EXPECT_GT(viewer->GetIgnoredCategories().Locate("EXTRA"), 0);
 }
 
 TEST_F(CategoryGraph, BranchesOpenAndCloseWithTheRoot) {
