@@ -35,7 +35,7 @@ constexpr int WhyWidth = 90; // in characters
 constexpr int WhyLines = 3;
 constexpr int MostListed = 12; // in a message
 constexpr int Ok = 1;
-constexpr LayoutSize UsualSize = {1200, 800};
+constexpr LayoutSize UsualSize = {1160, 780};
 
 ZOLUnicodeString Number(int number) {
     return ZOLUnicodeString::FromNumber(number);
@@ -50,10 +50,6 @@ ZOLUnicodeString Joined(const std::vector<ZOLUnicodeString>& lines) {
     if (lines.size() > shown)
         text += "\n+ " + Number(static_cast<int>(lines.size() - shown));
     return text;
-}
-
-bool IsAmong(const ZOLParameter& parameter, const std::vector<ZOLParameter>& list) {
-    return std::ranges::find(list, parameter) != list.end();
 }
 
 } // namespace
@@ -170,10 +166,12 @@ void ConfigureWindow::ShowWhy() {
         _why->SetText(Text("PointAtOption.Msg"));
         return;
     }
-    static constexpr const char* keys[] = {"Chosen.Msg",          "Rejected.Msg", "ChosenByRules.Msg",
-                                           "RejectedByRules.Msg", "Ignored.Msg",  "Open.Msg"};
+    static constexpr const char* keys[] = {
+        "Chosen.Msg",  "Rejected.Msg", "RejectedWithChoice.Msg", "ChosenByRules.Msg", "RejectedByRules.Msg",
+        "Ignored.Msg", "Open.Msg"};
     const auto state = static_cast<std::size_t>(_reasons->StateOf(*_looked));
-    ZOLUnicodeString text = Text(keys[state], {_looked->GetOption(), _looked->GetCategory()});
+    ZOLUnicodeString text =
+        Text(keys[state], {_looked->GetOption(), _looked->GetCategory(), _reasons->ChosenInstead(*_looked)});
     if (const auto reasons = _reasons->Why(*_looked); !reasons.empty())
         text += "\n" + Joined(reasons);
     _why->SetText(text);
@@ -194,9 +192,8 @@ void ConfigureWindow::RepairCB(ZOLCommand*, ZOLNotification*, void*) {
     if (givenUp.empty())
         return;
     ZOLListPtrZOLParameter kept;
-    for (const ZOLParameter& choice : _reasons->Choices())
-        if (!IsAmong(choice, givenUp))
-            kept.Append(new ZOLParameter(choice));
+    for (const ZOLParameter& choice : _reasons->ChoicesWithout(givenUp))
+        kept.Append(new ZOLParameter(choice));
     _panel->ChooseInstead(kept, _panel->GetIgnoredCategories());
 }
 

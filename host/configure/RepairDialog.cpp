@@ -1,10 +1,9 @@
 #include "configure/RepairDialog.h"
 
 #include "toolkit/ZOLDlgEditor.h"
+#include "toolkit/ZOLDlgFrame.h"
 #include "toolkit/ZOLDlgLabel.h"
 #include "toolkit/ZOLDlgSelectorList.h"
-
-#include <algorithm>
 
 namespace trellis {
 
@@ -16,41 +15,40 @@ constexpr int Width = 80; // in characters, as the next in lines
 constexpr int MostReasonLines = 8;
 constexpr int MostRepairLines = 6;
 
-// To choose in an exclusive category rejects its other options; they are given up with the choice, unsaid.
-bool GoesWithAChoice(const ZOLParameter& rejection, const SelectionReasons::Parameters& repair) {
-    return rejection.IsNot() && rejection.GetCategoryExclusivity() &&
-           std::ranges::any_of(repair, [&](const ZOLParameter& other) {
-               return !other.IsNot() && other.GetCategory() == rejection.GetCategory();
-           });
-}
-
 } // namespace
 
 RepairDialog::RepairDialog(ZOLDialog* father, const SelectionReasons& reasons)
     : ZOLDlgDialog(father, "ConfigureRepair", OkCancelAndModal), _repairs(reasons.Repairs()) {
-    new ZOLDlgLabel(this, "WhyLabel");
-    auto* why = new ZOLDlgEditor(this, "WhyEd", SeveralLinesReadOnly);
+    auto* whyFrame = new ZOLDlgFrame(this, "WhyFrame");
+    auto* why = new ZOLDlgEditor(whyFrame, "WhyEd", SeveralLinesReadOnly);
     ZOLUnicodeString text;
     for (const ZOLUnicodeString& line : reasons.WhyConflict())
         text += text.IsEmpty() ? line : ZOLUnicodeString("\n") + line;
     why->SetVisibleTextWidth(Width);
     why->SetVisibleTextHeight(MostReasonLines);
     why->SetText(text);
-    new ZOLDlgLabel(this, _repairs.empty() ? "NoRepairLabel" : "RepairLabel");
-    if (!_repairs.empty()) {
-        _list = new ZOLDlgSelectorList(this, "RepairList");
-        _list->SetVisibleTextWidth(Width);
-        _list->SetVisibleTextHeight(MostRepairLines);
-        for (const SelectionReasons::Parameters& repair : _repairs)
-            _list->SetLine(LineOf(repair));
-        const int first = 0;
-        _list->SetSelect(&first, 1);
-        AddAnalyseNotificationCB(_list, _list->GetListSelectNotification(),
-                                 ZOL_CALLBACK(&RepairDialog::ChoiceCB));
-    }
+    why->SetSelection(0, -1);
+    why->Attach4Sides();
+    if (_repairs.empty())
+        new ZOLDlgLabel(this, "NoRepairLabel");
+    else
+        BuildRepairs();
     SetOKTitle(Text("ConfigureRepair.OK"));
     SetCANCELTitle(Text("ConfigureRepair.Cancel"));
     ChoiceCB(nullptr, nullptr, nullptr);
+}
+
+void RepairDialog::BuildRepairs() {
+    auto* frame = new ZOLDlgFrame(this, "RepairFrame");
+    _list = new ZOLDlgSelectorList(frame, "RepairList");
+    _list->SetVisibleTextWidth(Width);
+    _list->SetVisibleTextHeight(MostRepairLines);
+    for (const SelectionReasons::Parameters& repair : _repairs)
+        _list->SetLine(LineOf(repair));
+    const int first = 0;
+    _list->SetSelect(&first, 1);
+    AddAnalyseNotificationCB(_list, _list->GetListSelectNotification(),
+                             ZOL_CALLBACK(&RepairDialog::ChoiceCB));
 }
 
 ZOLString RepairDialog::GetResourceFilename(int level) const {
@@ -66,8 +64,6 @@ ZOLUnicodeString RepairDialog::Text(const char* key, const ZOLListValZOLUnicodeS
 ZOLUnicodeString RepairDialog::LineOf(const SelectionReasons::Parameters& repair) const {
     ZOLUnicodeString line;
     for (const ZOLParameter& choice : repair) {
-        if (GoesWithAChoice(choice, repair))
-            continue;
         const ZOLUnicodeString text = Text(choice.IsNot() ? "GiveUpRejection.Msg" : "GiveUpChoice.Msg",
                                            {choice.GetOption(), choice.GetCategory()});
         line = line.IsEmpty() ? text : Text("And.Msg", {line, text});

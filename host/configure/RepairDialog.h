@@ -19,6 +19,7 @@ public:
     SelectionReasons::Parameters Ask();
 
 private:
+    void BuildRepairs();
     ZOLUnicodeString LineOf(const SelectionReasons::Parameters& repair) const;
     ZOLUnicodeString Text(const char* key, const ZOLListValZOLUnicodeString& parameters = {}) const;
     void ChoiceCB(ZOLCommand*, ZOLNotification*, void*);

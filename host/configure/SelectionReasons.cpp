@@ -24,6 +24,28 @@ std::vector<ZOLUnicodeString> Lines(const std::vector<RuleReasonItem>& reasons) 
     return lines;
 }
 
+bool IsSameOption(const ZOLParameter& one, const ZOLParameter& other) {
+    return one.GetOption() == other.GetOption() && one.GetCategory() == other.GetCategory();
+}
+
+bool IsAmong(const ZOLParameter& parameter, const SelectionReasons::Parameters& list) {
+    return std::ranges::find(list, parameter) != list.end();
+}
+
+bool IsChosen(const ZOLParameter& option, const SelectionReasons::Parameters& choices) {
+    return std::ranges::any_of(
+        choices, [&](const ZOLParameter& choice) { return !choice.IsNot() && IsSameOption(choice, option); });
+}
+
+// Whether a rejection goes with the choice of another option in its exclusive category.
+bool IsBroughtByChoice(const ZOLParameter& rejection, const SelectionReasons::Parameters& choices) {
+    return rejection.IsNot() && rejection.GetCategoryExclusivity() &&
+           std::ranges::any_of(choices, [&](const ZOLParameter& other) {
+               return !other.IsNot() && other.GetCategory() == rejection.GetCategory() &&
+                      other.GetOption() != rejection.GetOption();
+           });
+}
+
 } // namespace
 
 // One question to the rules: the handler, and the choices as it takes them.
@@ -58,6 +80,34 @@ SelectionReasons::Parameters SelectionReasons::Choices() const {
     return choices;
 }
 
+SelectionReasons::Parameters SelectionReasons::ChoicesWithout(const Parameters& givenUp) const {
+    const Parameters choices = Choices();
+    Parameters remaining = choices;
+    std::erase_if(remaining, [&](const ZOLParameter& choice) { return IsAmong(choice, givenUp); });
+    Parameters kept = remaining;
+    std::erase_if(kept, [&](const ZOLParameter& choice) {
+        return IsBroughtByChoice(choice, choices) &&
+               (!IsBroughtByChoice(choice, remaining) || IsChosen(choice, remaining));
+    });
+    return kept;
+}
+
+SelectionReasons::Parameters SelectionReasons::Stated() const {
+    const Parameters choices = Choices();
+    Parameters stated = choices;
+    std::erase_if(stated, [&](const ZOLParameter& choice) { return IsBroughtByChoice(choice, choices); });
+    return stated;
+}
+
+ZOLUnicodeString SelectionReasons::ChosenInstead(const ZOLParameter& option) const {
+    for (const ZOLParameter* parameter : _panel.GetParameters())
+        if (!parameter->IsNot() && parameter->GetParameterSource() != ZOLParameter::SourceRule &&
+            parameter->GetCategoryExclusivity() && parameter->GetCategory() == option.GetCategory() &&
+            parameter->GetOption() != option.GetOption())
+            return parameter->GetOption();
+    return {};
+}
+
 int SelectionReasons::CountChosen() const {
     const Parameters choices = Choices();
     return static_cast<int>(
@@ -69,8 +119,10 @@ SelectionReasons::State SelectionReasons::StateOf(const ZOLParameter& option) co
         if (parameter->GetOption() != option.GetOption() || parameter->GetCategory() != option.GetCategory())
             continue;
         const bool byRules = parameter->GetParameterSource() == ZOLParameter::SourceRule;
+        if (parameter->IsNot() && !byRules)
+            return ChosenInstead(option).IsEmpty() ? State::Rejected : State::RejectedWithChoice;
         if (parameter->IsNot())
-            return byRules ? State::RejectedByRules : State::Rejected;
+            return State::RejectedByRules;
         return byRules ? State::ChosenByRules : State::Chosen;
     }
     return _panel.GetIgnoredCategories().Locate(option.GetCategory()) > 0 ? State::Ignored : State::Open;
@@ -80,18 +132,18 @@ std::vector<ZOLUnicodeString> SelectionReasons::Why(const ZOLParameter& option) 
     const State state = StateOf(option);
     if (state != State::ChosenByRules && state != State::RejectedByRules)
         return {};
-    Question question(_panel, Choices());
+    Question question(_panel, Stated());
     return Lines(question.handler.Why(question.list, ZOLParameter(option.GetCategory(), option.GetOption(),
                                                                   state == State::RejectedByRules)));
 }
 
 std::vector<ZOLUnicodeString> SelectionReasons::WhyConflict() const {
-    Question question(_panel, Choices());
+    Question question(_panel, Stated());
     return Lines(question.handler.WhyConflict(question.list));
 }
 
 std::vector<SelectionReasons::Parameters> SelectionReasons::Repairs() const {
-    Question question(_panel, Choices());
+    Question question(_panel, Stated());
     return question.handler.Repairs(question.list, MostRepairs);
 }
 

@@ -16,13 +16,18 @@ public:
 
     explicit SelectionReasons(const ZOLIQRDCategoryGraph& panel) : _panel(panel) {}
 
-    // What was chosen by the user, and not by rules.
+    // What was chosen and rejected by the user, and not by rules.
     Parameters Choices() const;
+    // The same without those that are given up. In an exclusive category the rejections of the other options go with
+    // the choice that made them.
+    Parameters ChoicesWithout(const Parameters& givenUp) const;
     // Of these, the ones that are chosen rather than rejected.
     int CountChosen() const;
 
-    enum class State { Chosen, Rejected, ChosenByRules, RejectedByRules, Ignored, Open };
+    enum class State { Chosen, Rejected, RejectedWithChoice, ChosenByRules, RejectedByRules, Ignored, Open };
     State StateOf(const ZOLParameter& option) const;
+    // The option of the same exclusive category that is chosen by the user; of several the first, empty for none.
+    ZOLUnicodeString ChosenInstead(const ZOLParameter& option) const;
     // Why the rules put the option into its state; nothing for the user's own choice and an open one. One line each.
     std::vector<ZOLUnicodeString> Why(const ZOLParameter& option) const;
     std::vector<ZOLUnicodeString> WhyConflict() const;
@@ -33,6 +38,9 @@ public:
 
 private:
     class Question;
+
+    // What has to be said of the choices: all but rejections that an exclusive category brings with a choice.
+    Parameters Stated() const;
 
     const ZOLIQRDCategoryGraph& _panel;
 };

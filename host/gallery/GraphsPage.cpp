@@ -42,6 +42,11 @@ constexpr std::array<Look<ZOLGraphNode>, 7> NodeLooks = {{
     {"Node.TwoLines", [](ZOLGraphNode&) {}},
 }};
 
+constexpr std::array OptionMarks = {NodeMark::Undecided,      NodeMark::ChosenByUser,
+                                    NodeMark::ChosenByRule,   NodeMark::RejectedByUser,
+                                    NodeMark::RejectedByRule, NodeMark::Ignored};
+constexpr std::array GroupMarks = {NodeMark::Decided, NodeMark::Missing, NodeMark::Ignored};
+
 constexpr int RejectedLine = 2;
 constexpr int Red = 4;
 
@@ -88,7 +93,7 @@ void GraphsPage::Build(ZOLDlgFrame* holder) {
     network->GetGraph()->setPacked();
     network->GetGraph()->setWithSquareArc();
     network->GetGraph()->setDepthMargin(DepthMargin);
-    for (ZOLGraphNode* root : {BuildArcs(), BuildLooks(), BuildColours()})
+    for (ZOLGraphNode* root : {BuildArcs(), BuildLooks(), BuildColours(), BuildMarks()})
         network->GetGraph()->addTree(root);
 }
 
@@ -150,6 +155,21 @@ ZOLGraphNode* GraphsPage::BuildLooks() {
     ZOLGraphNode* root = AddNode(nullptr, Text("Network.Looks"));
     for (const Look<ZOLGraphNode>& look : NodeLooks)
         look.apply(*AddNode(root, Text(look.key)));
+    return root;
+}
+
+// Those of groups stand behind a text, which needs a pixmap before it.
+ZOLGraphNode* GraphsPage::BuildMarks() {
+    ZOLGraphNode* root = AddNode(nullptr, Text("Network.Marks"));
+    for (const NodeMark mark : OptionMarks)
+        AddNode(root, WordsFor(mark))->setMark(mark);
+    for (const NodeMark mark : GroupMarks) {
+        ZOLGraphNode* group = AddNode(root, WordsFor(mark));
+        group->setPixmap(OpenBranch);
+        group->setMark(mark);
+    }
+    for (const NodeAlert alert : {NodeAlert::Irresolution, NodeAlert::Conflict})
+        AddNode(root, WordsFor(alert))->setMark(NodeMark::Undecided, alert);
     return root;
 }
 

@@ -21,6 +21,7 @@ private:
     void BuildOutline(ZOLGraphViewer& viewer);
     ZOLGraphNode* BuildColours();
     ZOLGraphNode* BuildLooks();
+    ZOLGraphNode* BuildMarks();
     ZOLGraphNode* BuildArcs();
 
     void BranchCB(ZOLCommand*, ZOLNotification* notification, void*);

@@ -31,12 +31,11 @@ bool IsPressed(const ZOLGraphNode& node) {
     return node.isShadowIn() && !IsMarked(node);
 }
 
-// The palette's index whose sign says what an alert or the mark of a group says; 0 for none.
-int SignColourOf(NodeAlert alert) {
-    constexpr int colours[] = {0, 2, 4};
-    return colours[static_cast<std::size_t>(alert)];
-}
+// Indexes of the palette.
+constexpr int Plain = 1;
+constexpr int Found = 112; // by a search, which no mark tells
 
+// The colour whose sign says what a mark says; that of one without says nothing.
 int SignColourOf(NodeMark mark) {
     switch (mark) {
     case NodeMark::Decided:
@@ -46,20 +45,17 @@ int SignColourOf(NodeMark mark) {
     case NodeMark::Ignored:
         return 66;
     default:
-        return 0;
+        return Plain;
     }
 }
 
-// The colour of the strip at the right end, whose sign may be empty.
-const GraphColour& StripOf(const ZOLGraphNode& node) {
-    constexpr int plain = 1;
-    constexpr int found = 112; // by a search, which no mark tells
-    if (!IsMarked(node) || (node.getColor() == found && node.getAlert() == NodeAlert::None))
-        return GraphPalette::At(node.getColor());
-    if (const int alert = SignColourOf(node.getAlert()))
-        return GraphPalette::At(alert);
-    const int mark = node.HasPixmap() ? SignColourOf(node.getMark()) : 0;
-    return GraphPalette::At(mark ? mark : plain);
+// The index of the strip at the right end. What is wrong comes first; a mark that has a box needs no sign.
+int StripOf(const ZOLGraphNode& node) {
+    if (node.getAlert() != NodeAlert::None)
+        return node.getAlert() == NodeAlert::Conflict ? 4 : 2;
+    if (!IsMarked(node) || node.getColor() == Found)
+        return node.getColor();
+    return node.HasPixmap() ? SignColourOf(node.getMark()) : Plain;
 }
 
 // Behind a text a colour that means a state is lighter, so that the text reads well on each of them.
@@ -110,7 +106,7 @@ void GraphNodePainter::Paint(cairo_t* context, const ZOLGraphNode& node, const L
                              Detail detail) {
     if (node.getDecorationVisibility())
         PaintBody(context, node, place, detail);
-    if (const GraphColour& strip = StripOf(node); HasSign(strip))
+    if (const GraphColour& strip = GraphPalette::At(StripOf(node)); HasSign(strip))
         PaintSign(context, node, place, strip, detail);
     if (detail == WithoutText)
         return;

@@ -29,10 +29,7 @@ void SelectionMerge::Select(std::unique_ptr<ZOLParameter> clicked, const Options
                 !each->IsNot() && each->GetParameterSource() == ZOLParameter::SourceUser;
             if (isUsersChoice) {
                 isKept = false;
-                if (_mode.isAdvanced) {
-                    adds = false;
-                    keepNames.insert(each->GetOption());
-                }
+                adds = adds && !_mode.isAdvanced;
             } else {
                 keepNames.insert(each->GetOption());
                 isKept =

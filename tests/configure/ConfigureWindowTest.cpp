@@ -22,6 +22,9 @@ TEST_F(ConfigureWindowTest, TheWindowTellsWhyAnOptionIsInItsState) {
     EXPECT_TRUE(Sees("LED (LAMP) is chosen by the rules"));
     EXPECT_TRUE(Sees(R"(if "RED" then "LED")"));
     EXPECT_TRUE(Sees(R"("COLOUR"."RED")")) << "the choice behind it";
+    Driver::PointAt(viewer, Node("COLOUR", "BLUE"));
+    EXPECT_TRUE(Sees("BLUE (COLOUR) is rejected by your choice of RED"));
+    Driver::PointAt(viewer, Node("LAMP", "LED"));
     Driver::PointAt(viewer, nullptr);
     EXPECT_TRUE(Sees("LED (LAMP) is chosen by the rules")) << "stays while the pointer travels";
     Driver::PointAt(viewer, Node("LAMP", "HALOGEN"));
@@ -49,6 +52,26 @@ TEST_F(ConfigureWindowTest, AConflictIsEndedByOneStepAndThatIsTakenBack) {
     EXPECT_TRUE(Sees("cannot stand together"));
     Press("Redo");
     EXPECT_FALSE(Sees("cannot stand together"));
+}
+
+TEST_F(ConfigureWindowTest, TwoChoicesOfOneCategoryAreRepairedWithWhatWentWithThem) {
+    Option(colour, "GREEN");
+    Show();
+    Click("COLOUR", "RED");
+    Driver::Type(Driver::Find(window, "RapidSelectField"), "BLUE"); // as it is: RED stays
+    Driver::Enter(Driver::Find(window, "RapidSelectField"));
+    EXPECT_TRUE(Sees("cannot stand together"));
+    const std::string told = AskRepairs([](ZOLDialog* dialog) {
+        Driver::SelectLines(Driver::Find(dialog, "RepairList"), {"the choice of RED (COLOUR)"});
+        Driver::Ok(dialog);
+        return 1;
+    });
+    EXPECT_NE(told.find("takes one option at most"), std::string::npos) << told;
+    EXPECT_FALSE(Sees("cannot stand together"));
+    Driver::PointAt(viewer, Node("COLOUR", "BLUE"));
+    EXPECT_TRUE(Sees("BLUE (COLOUR) is chosen by you"));
+    Driver::PointAt(viewer, Node("COLOUR", "GREEN"));
+    EXPECT_TRUE(Sees("GREEN (COLOUR) is rejected by your choice of BLUE"));
 }
 
 TEST_F(ConfigureWindowTest, ARepairThatIsNotTakenChangesNothing) {

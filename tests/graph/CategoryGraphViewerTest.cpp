@@ -112,6 +112,25 @@ TEST_F(CategoryGraph, AConflictStaysVisibleUntilItIsTakenBack) {
     EXPECT_EQ(Selection(), "-LED +HALOGEN /RED ");
 }
 
+TEST_F(CategoryGraph, WhatFollowedBeforeAConflictStaysWithIt) {
+    Rule(R"(if "RED" then "LED" and "BELL")");
+    Show(0);
+    Click("COLOUR", "RED");
+    Reject("LAMP", "LED");
+    EXPECT_EQ(Selection(), "-BLUE +RED /HALOGEN *BELL -LED ");
+    EXPECT_EQ(RootColour(), 4);
+    Reject("LAMP", "LED");
+    EXPECT_EQ(Selection(), "-BLUE +RED *LED /HALOGEN *BELL ");
+}
+
+TEST_F(CategoryGraph, AMenuEndsWithTheCategoryThatItIsFor) {
+    Show(1);
+    Driver::ContextClick(viewer, Driver::Node(viewer, {"Options", "EXTRA (EXTRA)"}));
+    ZOLDialog* item = Driver::Find(viewer, "IgnoreAllItem");
+    Build({});
+    EXPECT_THROW(Driver::Press(item), Driver::Refused);
+}
+
 TEST_F(CategoryGraph, RejectingAndTheMenuOfACategory) {
     Show(1);
     Reject("EXTRA", "RACK");
@@ -178,7 +197,7 @@ TEST_F(CategoryGraph, AnIgnoredCategoryIsNoChoiceAndIgnoredOnceHoweverOftenItIsT
     Click("COLOUR", "RED");
     const auto terms = viewer->GetOptions(0);
     Build({colour}, terms);
-    EXPECT_EQ(Selection(), "-BLUE +RED ") << "what is not shown is not chosen";
+    EXPECT_EQ(Selection(), "+RED -BLUE ") << "what is not shown is not chosen";
     Build(terms);
     EXPECT_EQ(viewer->GetIgnoredCategories().Size(), 2);
     Menu("EXTRA", "ConsiderAllItem");

@@ -104,6 +104,7 @@ TEST_F(CategoryNode, ConflictsAndIrresolutionsAreMarkedUntilTheyAreCleared) {
     EXPECT_EQ(node.getColor(), 4) << "a conflict comes first";
     node.ClearUserSelected();
     EXPECT_EQ(node.getColor(), 2) << "clearing states ends the mark of a conflict alone";
+    EXPECT_EQ(node.GetOptionNode("BLUE")->getAlert(), NodeAlert::None) << "and those of options";
     node.ClearConflicts();
     EXPECT_EQ(node.getColor(), 1);
     ZOLDeleteElements(list);
