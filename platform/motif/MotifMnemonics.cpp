@@ -4,6 +4,7 @@
 #include "toolkit/CallbackScope.h"
 #include "toolkit/Mnemonics.h"
 #include "toolkit/ZOLDlgCombo.h"
+#include "toolkit/ZOLDlgContainer.h"
 #include "toolkit/ZOLDlgDialog.h"
 #include "toolkit/ZOLDlgEditor.h"
 #include "toolkit/ZOLDlgLabel.h"
@@ -45,14 +46,17 @@ bool IsButton(ZOLDialog* dialog) {
     return As<ZOLDlgPushButton>(dialog) || As<ZOLDlgToggleButton>(dialog) || As<ZOLDlgTabPage>(dialog);
 }
 
-// A toggle that was titled by code stands for one of many things of the user's own: letters for these would change
-// with them, and leave none for the buttons.
+// A toggle in an area that scrolls, titled by code, stands for one of many things of the user's own: letters for
+// these would change with them, and leave none for the buttons.
 bool IsDatum(ZOLDialog* dialog) {
     ZOLUnicodeString text;
-    return As<ZOLDlgToggleButton>(dialog) &&
-           !(dialog->GetResourceValueFromKey((std::string(dialog->GetName().View()) + ".Title").c_str(),
-                                             text) &&
-             text == dialog->GetTitle());
+    if (!As<ZOLDlgToggleButton>(dialog) ||
+        dialog->GetResourceValueFromKey((std::string(dialog->GetName().View()) + ".Title").c_str(), text))
+        return false;
+    for (ZOLDialog* holder = dialog->GetOwner(); holder; holder = holder->GetOwner())
+        if (As<ZOLDlgContainer>(holder))
+            return true;
+    return false;
 }
 
 const DialogButtons* RowOf(const ZOLDialog& window) {

@@ -18,6 +18,8 @@ namespace {
 constexpr unsigned long OkAlone = 0x600; // and above its father, as the next
 constexpr unsigned long OkApplyCancel = 0x2e00;
 constexpr int SearchListStyle = 6;
+constexpr int LegendWidth = 420; // in pixels, as the next: all looks in sight
+constexpr int LegendHeight = 600;
 
 ZOLButtonState StateOf(int isOn) {
     return isOn ? ZOLOn : ZOLOff;
@@ -187,6 +189,7 @@ void ZOLDlgCategoryGraph::SearchOptionCloseCB(ZOLCommand*, ZOLNotification*, voi
 void ZOLDlgCategoryGraph::ColorLegendCB(ZOLCommand*, ZOLNotification*, void*) {
     if (!_legend) {
         _legend = new ZOLDlgDialog(this, "ColorLegendPanel", OkAlone);
+        _legend->SetRectDimensions(LegendWidth, LegendHeight);
         trellis::ColorLegend(*_legend, IsAdvancedConfigMode() != 0).Build();
         for (ZOLNotification* end : {_legend->GetDiaOKNotification(), _legend->GetWindCloseNotification()})
             AddAnalyseNotificationCB(_legend, end, ZOL_CALLBACK(&ZOLDlgCategoryGraph::ColorLegendCloseCB));

@@ -37,11 +37,14 @@ protected:
         EXPECT_EQ(Driver::Top(), nullptr);
     }
 
-    void Show() {
+    void Show(const std::vector<const char*>& parts = {"BIKE"}) {
         static const auto module = ModuleLoader::Load(error);
         ASSERT_TRUE(module) << Message();
         const CallbackScope scope;
-        window = ConfigureWindow::Open(nullptr, {Part("BIKE")}, error);
+        ZOLListValZOLDMInstance products;
+        for (const char* part : parts)
+            products.Append(Part(part));
+        window = ConfigureWindow::Open(nullptr, products, error);
         ASSERT_TRUE(window) << Message();
         viewer = static_cast<ZOLGraphViewer*>(Driver::Find(window, "CategoryGraph/CategoryGraph"));
     }

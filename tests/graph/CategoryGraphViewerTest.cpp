@@ -1,6 +1,7 @@
 #include "graph/ZOLCategoryGraphViewer.h"
 #include "service/ServiceFixture.h"
 #include "toolkit/CallbackScope.h"
+#include "toolkit/ZOLDlgContextualMenu.h"
 #include "toolkit/ZOLDlgWindow.h"
 #include "toolkit/ZOLUserDriver.h"
 
@@ -126,9 +127,67 @@ TEST_F(CategoryGraph, WhatFollowedBeforeAConflictStaysWithIt) {
 TEST_F(CategoryGraph, AMenuEndsWithTheCategoryThatItIsFor) {
     Show(1);
     Driver::ContextClick(viewer, Driver::Node(viewer, {"Options", "EXTRA (EXTRA)"}));
-    ZOLDialog* item = Driver::Find(viewer, "IgnoreAllItem");
+    const auto* menu = static_cast<ZOLDlgContextualMenu*>(Driver::Find(viewer, "ContextualMenu"));
+    EXPECT_TRUE(menu->IsOpen());
     Build({});
-    EXPECT_THROW(Driver::Press(item), Driver::Refused);
+    EXPECT_FALSE(menu->IsOpen());
+}
+
+TEST_F(CategoryGraph, ARejectionThatASelectionNeedsStays) {
+    Show(0);
+    Click("COLOUR", "RED");
+    Reject("COLOUR", "BLUE");
+    EXPECT_EQ(Selection(), "+RED -BLUE ");
+    Click("COLOUR", "RED");
+    Reject("COLOUR", "BLUE");
+    EXPECT_EQ(Selection(), "");
+}
+
+TEST_F(CategoryGraph, TheRootTellsOfAMandatoryCategoryWithoutAChoice) {
+    lamp->SetMandatory(1, error);
+    Show(0);
+    EXPECT_TRUE(viewer->AllMandatoryCategoriesSelected()) << "as long as nothing is chosen at all";
+    Click("COLOUR", "RED");
+    EXPECT_EQ(RootColour(), 7);
+    EXPECT_FALSE(viewer->AllMandatoryCategoriesSelected());
+    Click("LAMP", "LED");
+    EXPECT_EQ(RootColour(), 1);
+    EXPECT_TRUE(viewer->AllMandatoryCategoriesSelected());
+}
+
+TEST_F(CategoryGraph, TermsAreAddedToTheSelectionAsTheyAre) {
+    Show(0);
+    Click("COLOUR", "RED");
+    ZOLListValZOLQRDCfgEffectivity terms;
+    for (const char* name : {"RED", "LED", "BELL"})
+        terms.Append(ZOLQRDCfgEffectivity(name, ""));
+    terms[3].SetRejected();
+    viewer->SetSelected(terms, 2, 1);
+    EXPECT_EQ(Selection(), "-BLUE +RED +LED -BELL /HALOGEN ") << "none twice";
+    viewer->Undo();
+    EXPECT_NE(Selection(), "") << "earlier states are forgotten";
+    viewer->SetHighlighted(terms, 1);
+    EXPECT_EQ(Node("EXTRA", "BELL")->getColor(), 112);
+    viewer->UnHighlightAll();
+    EXPECT_EQ(Node("EXTRA", "BELL")->getColor(), 12);
+}
+
+TEST_F(CategoryGraph, CategoriesOfOneNameInTwoDictionariesAreOne) {
+    const auto corporate = Manager().GetCorporateDictionary();
+    const auto more = Category(corporate, "COLOUR");
+    Option(more, "GREEN");
+    Option(more, "RED");
+    Show(0);
+    {
+        const CallbackScope scope;
+        viewer->BuildGraph({colour, more}, {}, {dictionary, corporate});
+    }
+    Click("COLOUR", "GREEN");
+    EXPECT_EQ(Selection(), "-BLUE -RED +GREEN ");
+    ZOLListValZOLIQrdCategory_var categories;
+    EXPECT_EQ(viewer->GetCategories(categories, 1), 2);
+    EXPECT_EQ(viewer->GetOptions(1).Size(), 3) << "each name once";
+    EXPECT_EQ(viewer->GetOptions(0).Size(), 3) << "of the whole dictionaries";
 }
 
 TEST_F(CategoryGraph, RejectingAndTheMenuOfACategory) {
@@ -165,6 +224,14 @@ TEST_F(CategoryGraph, DefaultsAreChosenOnlyWhereNothingElseIsTold) {
         Build({});
     }
     EXPECT_EQ(Selection(), "") << "in check mode none";
+    {
+        const CallbackScope scope;
+        viewer->RulesSelectMode(0);
+        viewer->AdvancedConfigMode();
+        viewer->ClearAll(1);
+        Build({});
+    }
+    EXPECT_EQ(Selection(), "") << "nor where all is ignored";
 }
 
 TEST_F(CategoryGraph, CheckModeReportsConflictsAndDecidesNothing) {
