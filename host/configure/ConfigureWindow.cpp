@@ -253,8 +253,8 @@ void ConfigureWindow::SaveSelectionCB(ZOLCommand*, ZOLNotification*, void*) {
         return;
     KeptSelection selection;
     selection.product = ProductName().Bytes();
-    selection.choices = _reasons->Choices();
-    selection.ignoredCategories = _panel->GetIgnoredCategories();
+    selection.choices = _reasons->KnownChoices();
+    selection.ignoredCategories = _reasons->IgnoredCategories();
     ZOLGYRError error;
     selection.Write(path.Bytes(), error);
     Report(error);

@@ -1,5 +1,7 @@
 #include "configure/SelectionReasons.h"
 
+#include "session/KeptSelection.h"
+
 #include <algorithm>
 
 namespace trellis {
@@ -7,7 +9,9 @@ namespace trellis {
 namespace {
 
 constexpr int MostRepairs = 8;
-// Places in the list of states, and the numbers there that mean off.
+// Places in the list of states, and what stands there for the advanced mode and for rules that are off.
+constexpr int ModePlace = 1;
+constexpr int AdvancedMode = 1;
 constexpr int RulesPlace = 3;
 constexpr int RulesOff = 6;
 constexpr int DirectivesPlace = 4;
@@ -80,6 +84,18 @@ SelectionReasons::Parameters SelectionReasons::Choices() const {
     return choices;
 }
 
+SelectionReasons::Parameters SelectionReasons::KnownChoices() const {
+    KeptSelection known;
+    known.choices = Choices();
+    known.TakeOutUnknown(_panel.GetDictionaries());
+    return known.choices;
+}
+
+ZOLListValZOLUnicodeString SelectionReasons::IgnoredCategories() const {
+    const bool isAdvanced = _panel.GetListOfStatus()[ModePlace] == AdvancedMode;
+    return isAdvanced ? _panel.GetIgnoredCategories() : ZOLListValZOLUnicodeString();
+}
+
 SelectionReasons::Parameters SelectionReasons::ChoicesWithout(const Parameters& givenUp) const {
     const Parameters choices = Choices();
     Parameters remaining = choices;
@@ -109,7 +125,7 @@ ZOLUnicodeString SelectionReasons::ChosenInstead(const ZOLParameter& option) con
 }
 
 int SelectionReasons::CountChosen() const {
-    const Parameters choices = Choices();
+    const Parameters choices = KnownChoices();
     return static_cast<int>(
         std::ranges::count_if(choices, [](const ZOLParameter& choice) { return !choice.IsNot(); }));
 }
@@ -125,7 +141,7 @@ SelectionReasons::State SelectionReasons::StateOf(const ZOLParameter& option) co
             return State::RejectedByRules;
         return byRules ? State::ChosenByRules : State::Chosen;
     }
-    return _panel.GetIgnoredCategories().Locate(option.GetCategory()) > 0 ? State::Ignored : State::Open;
+    return IgnoredCategories().Locate(option.GetCategory()) > 0 ? State::Ignored : State::Open;
 }
 
 std::vector<ZOLUnicodeString> SelectionReasons::Why(const ZOLParameter& option) const {

@@ -16,12 +16,16 @@ public:
 
     explicit SelectionReasons(const ZOLIQRDCategoryGraph& panel) : _panel(panel) {}
 
-    // What was chosen and rejected by the user, and not by rules.
+    // What was chosen and rejected by the user, and not by rules; also what another product has left behind, for undo.
     Parameters Choices() const;
+    // The same as far as the dictionaries shown know it.
+    Parameters KnownChoices() const;
+    // None in simple mode, where ignoring has no effect.
+    ZOLListValZOLUnicodeString IgnoredCategories() const;
     // The same without those that are given up. In an exclusive category the rejections of the other options go with
     // the choice that made them.
     Parameters ChoicesWithout(const Parameters& givenUp) const;
-    // Of these, the ones that are chosen rather than rejected.
+    // How many are known, and chosen rather than rejected.
     int CountChosen() const;
 
     enum class State { Chosen, Rejected, RejectedWithChoice, ChosenByRules, RejectedByRules, Ignored, Open };

@@ -16,6 +16,9 @@ public:
     // The user confirmed: by Return (in editors of one line), or by leaving the editor after a change. Never
     // sent for a text that is set by code.
     ZOLNotification* GetEditModifyNotification() { return &_modifyNotification; }
+    // Return in an editor of one line, where nobody took the confirmation: for fields that act on Return, but not when
+    // they are left. Where nobody takes this one either, Return presses the default button.
+    ZOLNotification* GetEditReturnNotification() { return &_returnNotification; }
 
     // 1 and the text of a line, or 0 when there is no such line.
     int GetLine(ZOLUnicodeString& text, int line = 0) const;
@@ -80,4 +83,5 @@ private:
     bool _isVerifying = false;
     bool _isUnconfirmed = false;
     ZOLNotification _modifyNotification;
+    ZOLNotification _returnNotification;
 };

@@ -20,7 +20,9 @@ constexpr unsigned long readOnlyBit = 0x4000000;
 } // namespace
 
 ZOLDlgEditor::ZOLDlgEditor(ZOLDialog* father, const ZOLString& name, unsigned long style)
-    : ZOLDialog(father, name, style), _modifyNotification("ZOLDlgEditModifyNotification") {}
+    : ZOLDialog(father, name, style),
+      _modifyNotification("ZOLDlgEditModifyNotification"),
+      _returnNotification("ZOLDlgEditReturnNotification") {}
 
 bool ZOLDlgEditor::IsReadOnly() const {
     return GetStyle() & readOnlyBit;
@@ -142,7 +144,7 @@ ZOLUserResult ZOLDlgEditor::UserEnter() {
         return ZOLUserResult::ReadOnly;
     if (HasSeveralLines())
         return UserInsert("\n");
-    if (!Confirm())
+    if (!Confirm() && !SendNotification(nullptr, &_returnNotification))
         trellis::PressDefaultButton(*this);
     return ZOLUserResult::Done;
 }

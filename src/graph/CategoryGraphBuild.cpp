@@ -84,7 +84,8 @@ void ZOLCategoryGraphViewer::ChooseTerms(const ZOLListValZOLQRDCfgEffectivity& t
     std::unordered_set<ZOLUnicodeString> told;
     for (const ZOLQRDCfgEffectivity& term : terms) {
         const ZOLCategoryNode* node = NodeWithOption(term.GetOptionName());
-        const ZOLUnicodeString category = node ? node->GetCategoryName() : ZOLUnicodeString();
+        // One that is not shown stays what the term says, so that it can be told and kept.
+        const ZOLUnicodeString category = node ? node->GetCategoryName() : term.GetCategory();
         told.insert(category);
         if (term.IsIgnored()) {
             // One of a category that is not shown must not turn into a choice.

@@ -76,12 +76,14 @@ void ZOLQRDDlgOptionList::BuildSort(ZOLDialog* holder) {
 
 void ZOLQRDDlgOptionList::BuildFilter(ZOLDialog* holder, bool hasAssembly) {
     auto* frame = new ZOLDlgFrame(holder, "FilterFrame");
-    const auto addEditor = [frame](const char* label, const char* name, const ZOLUnicodeString& text) {
+    const auto addEditor = [&](const char* label, const char* name, const ZOLUnicodeString& text) {
         new ZOLDlgLabel(frame, label);
         auto* editor = new ZOLDlgEditor(frame, name);
         editor->SetVisibleTextWidth(FilterWidth);
         editor->SetHorizontalAttachment(1);
         editor->SetText(text);
+        AddAnalyseNotificationCB(editor, editor->GetEditReturnNotification(),
+                                 ZOL_CALLBACK(&ZOLQRDDlgOptionList::FilterCB));
         return editor;
     };
     _nameFilterEditor = addEditor("Name", "NameFilterEd", _NameFilter);

@@ -252,6 +252,17 @@ TEST_F(OptionList, TheFilterReplacesTheListOrAddsToIt) {
     EXPECT_EQ(Lines(), "");
 }
 
+TEST_F(OptionList, ReturnInTheFilterFiltersAndLeavingItDoesNot) {
+    Open(Filtered);
+    list->SetList(Some(), {}, 0);
+    Driver::Type(Find("NameFilterEd"), "R*");
+    Toggle("UsedOnlyBut", false); // leaves the field
+    EXPECT_EQ(Lines(), "RED LED BLUE ");
+    Driver::Enter(Find("NameFilterEd"));
+    EXPECT_EQ(Lines(), "RED ");
+    Filter("*", "*");
+}
+
 TEST_F(OptionList, TheNextPanelBeginsWithTheFilterAndTheUsedOptionsOfTheLastOne) {
     Open(Filtered);
     list->SetList(Some(), {}, 0);
