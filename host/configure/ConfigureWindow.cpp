@@ -54,25 +54,27 @@ ZOLUnicodeString Joined(const std::vector<ZOLUnicodeString>& lines) {
 
 } // namespace
 
-ConfigureWindow* ConfigureWindow::Open(ZOLDialog* father, const ZOLListValZOLDMInstance& products,
-                                       ZOLGYRError& error) {
+ConfigureWindow* ConfigureWindow::Open(ZOLDialog* father, const ZOLDMInstance& scope,
+                                       const ZOLListValZOLDMInstance& products, ZOLGYRError& error) {
     const auto make = reinterpret_cast<CategoryGraphFactory>(ZOLDictionary::Find(CategoryGraphName));
     if (!make) {
         error.Set(ModuleNotLoaded, 0, {CategoryGraphName});
         return nullptr;
     }
-    auto* window = new ConfigureWindow(father, products, make);
+    auto* window = new ConfigureWindow(father);
+    window->Build(scope, products, make);
     window->SetVisibility(ZOLShown);
     return window;
 }
 
-ConfigureWindow::ConfigureWindow(ZOLDialog* father, const ZOLListValZOLDMInstance& products,
-                                 CategoryGraphFactory make)
-    : ZOLDlgWindow(father, "Configure") {
+ConfigureWindow::ConfigureWindow(ZOLDialog* father) : ZOLDlgWindow(father, "Configure") {}
+
+void ConfigureWindow::Build(const ZOLDMInstance& scope, const ZOLListValZOLDMInstance& products,
+                            CategoryGraphFactory make) {
     SetRectDimensions(UsualSize.width, UsualSize.height);
     BuildMenus();
     BuildBars();
-    _panel = make(this, "CategoryGraph", Text("Root.Title"), products);
+    _panel = make(this, "CategoryGraph", Text("Root.Title"), scope, products);
     _panel->Attach4Sides();
     _reasons.emplace(*_panel);
     BuildStatus();

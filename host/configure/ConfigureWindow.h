@@ -17,14 +17,18 @@ struct KeptSelection;
 class ConfigureWindow : public ZOLDlgWindow {
     ZOL_META_OBJECT(ConfigureWindow, ZOLDlgWindow)
 public:
-    // Null, with 60600, when the module offers no such panel; else the window, shown. It ends by itself.
-    static ConfigureWindow* Open(ZOLDialog* father, const ZOLListValZOLDMInstance& products,
-                                 ZOLGYRError& error);
+    // Null, with 60600, when the module offers no such panel; else the window, shown. It ends by itself. Without
+    // products it begins with the one that was used last within the scope.
+    static ConfigureWindow* Open(ZOLDialog* father, const ZOLDMInstance& scope,
+                                 const ZOLListValZOLDMInstance& products, ZOLGYRError& error);
 
     ZOLString GetResourceFilename(int level) const override;
 
 private:
-    ConfigureWindow(ZOLDialog* father, const ZOLListValZOLDMInstance& products, CategoryGraphFactory make);
+    explicit ConfigureWindow(ZOLDialog* father);
+
+    void Build(const ZOLDMInstance& scope, const ZOLListValZOLDMInstance& products,
+               CategoryGraphFactory make);
 
     void BuildMenus();
     void BuildBars();

@@ -53,7 +53,7 @@ const std::vector<NavigatorWindow::Action>& NavigatorWindow::Actions() {
         {"CloseBranchItem", &This::CloseBranch, &This::HasChoice},
         {"RefreshItem", &This::ReadAgain, nullptr},
         {"SavePictureItem", &This::SavePicture, nullptr},
-        {"ConfigureItem", &This::Configure, &This::HasChoice},
+        {"ConfigureItem", &This::Configure, nullptr},
         {"ContentsItem", &This::ShowHelp, nullptr},
     };
     return actions;
@@ -191,7 +191,7 @@ void NavigatorWindow::SavePicture() {
     Report(error);
 }
 
-// Opens on what was chosen; every part of it must have a dictionary.
+// Opens on what was chosen; every part of it must have a dictionary. Without a choice it opens on the product used last.
 void NavigatorWindow::Configure() {
     ZOLGYRError error;
     const ZOLQRDCfgManager* manager = ZOLQRDCfgManager::CurrentCfgManager(error);
@@ -205,7 +205,7 @@ void NavigatorWindow::Configure() {
         products.Append(part);
     }
     if (error.GetCode() == 0 && _session.Module())
-        ConfigureWindow::Open(this, products, error);
+        ConfigureWindow::Open(this, _graph->FirstRoot(), products, error);
     Report(error);
 }
 

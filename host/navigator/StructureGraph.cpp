@@ -59,6 +59,11 @@ void StructureGraph::Adopt(NavigatorNode* node) {
     GetGraph()->addTree(node);
 }
 
+ZOLDMInstance StructureGraph::FirstRoot() const {
+    const Nodes roots = Roots();
+    return roots.empty() ? ZOLDMInstance() : roots.front()->Part();
+}
+
 void StructureGraph::ShowRoots(const ZOLListValZOLDMInstance& roots) {
     Nodes gone;
     std::unordered_set<ZOLDMInstance> present;

@@ -22,6 +22,8 @@ public:
 
     // Shows these parts as roots in place of the present ones; those that stay keep their branches.
     void ShowRoots(const ZOLListValZOLDMInstance& roots);
+    // Nothing known where nothing is shown.
+    ZOLDMInstance FirstRoot() const;
     // Reads everything that was opened anew: links that came or went, texts and marks. A node that is gone leaves the
     // choice.
     void Synchronise();

@@ -43,9 +43,12 @@ protected:
     using ZOLDlgFrame::ZOLDlgFrame;
 };
 
-// The name under which the panel's factory is found, and the factory's type. `products`: the configurable parts between
-// which the user can change; the first is shown at once.
+// The name under which the panel's factory is found, and the factory's type.
+//   scope     the part whose users share a history of products; it counts only where no products are given
+//   products  the configurable parts between which the user can change; the first is shown at once. Without any, the
+//             panel begins with the product that was used last within the scope, as far as the host keeps products.
 inline constexpr const char* CategoryGraphName = "TRELLIS.CategoryGraph";
 using CategoryGraphFactory = ZOLIQRDCategoryGraph* (*)(ZOLDialog* parent, const ZOLString& name,
                                                        const ZOLUnicodeString& title,
+                                                       const ZOLDMInstance& scope,
                                                        const ZOLListVal<ZOLDMInstance>& products);

@@ -82,17 +82,17 @@ void ZOLCategoryGraphViewer::AddCategoryNode(ZOLCategoryNode* node) {
 
 void ZOLCategoryGraphViewer::ChooseTerms(const ZOLListValZOLQRDCfgEffectivity& terms) {
     std::unordered_set<ZOLUnicodeString> told;
+    const CategoriesByOption outOfSight = CategoriesOutOfSight();
     for (const ZOLQRDCfgEffectivity& term : terms) {
         const ZOLCategoryNode* node = NodeWithOption(term.GetOptionName());
-        // One that is not shown stays what the term says, so that it can be told and kept.
-        const ZOLUnicodeString category = node ? node->GetCategoryName() : term.GetCategory();
+        const ZOLUnicodeString category = node ? node->GetCategoryName() : ZOLUnicodeString();
         told.insert(category);
         if (term.IsIgnored()) {
             // One of a category that is not shown must not turn into a choice.
             if (node)
                 _ignored.Append(category);
         } else if (!term.IsUndefined()) {
-            _current.Append(ParameterOf(term, category, node).release());
+            _current.Append(ParameterOf(term, category, node, outOfSight).release());
         }
     }
     for (const ZOLCategoryNode* node : _nodes)

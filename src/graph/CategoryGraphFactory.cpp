@@ -9,7 +9,10 @@ constexpr int Width = 700; // in pixels, as the next
 constexpr int Height = 400;
 
 ZOLIQRDCategoryGraph* Make(ZOLDialog* parent, const ZOLString& name, const ZOLUnicodeString& title,
-                           const ZOLListValZOLDMInstance& products) {
+                           const ZOLDMInstance& scope, const ZOLListValZOLDMInstance& products) {
+    if (products.Size() == 0)
+        return new ZOLDlgCategoryGraph(parent, name, title, ControlsAndProduct, scope, products, {},
+                                       AsResultPanelSays, 1, 0, Width, Height, 0);
     return new ZOLDlgCategoryGraph(parent, name, title, ControlsAndProduct, products, AsResultPanelSays,
                                    Width, Height, 0);
 }

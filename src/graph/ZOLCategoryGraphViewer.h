@@ -136,6 +136,8 @@ public:
     void ElemEdit(ZOLCommand*, ZOLNotification*, void*) {}
 
 private:
+    using CategoriesByOption = std::unordered_map<ZOLUnicodeString, ZOLIQrdCategory_var>;
+
     void ElemSelected(ZOLCommand*, ZOLNotification* notification, void*);
     void ElemContext(ZOLCommand*, ZOLNotification* notification, void*);
     void SelectAllFromCategCB(ZOLCommand*, ZOLNotification*, void* node);
@@ -155,7 +157,10 @@ private:
     void AddCategoryNode(ZOLCategoryNode* node);
     static std::unique_ptr<ZOLParameter> ParameterOf(const ZOLQRDCfgEffectivity& term,
                                                      const ZOLUnicodeString& category,
-                                                     const ZOLCategoryNode* node);
+                                                     const ZOLCategoryNode* node,
+                                                     const CategoriesByOption& outOfSight);
+    // Categories of the dictionaries that have no node, as the user took them out, by the names of their options.
+    CategoriesByOption CategoriesOutOfSight() const;
     void ChooseTerms(const ZOLListValZOLQRDCfgEffectivity& terms);
     void ChooseDefaults();
     void ChooseDefaultsOf(const ZOLIQrdCategory_var& category);

@@ -44,7 +44,7 @@ protected:
         ZOLListValZOLDMInstance products;
         for (const char* part : parts)
             products.Append(Part(part));
-        window = ConfigureWindow::Open(nullptr, products, error);
+        window = ConfigureWindow::Open(nullptr, Part("BIKE"), products, error);
         ASSERT_TRUE(window) << Message();
         viewer = static_cast<ZOLGraphViewer*>(Driver::Find(window, "CategoryGraph/CategoryGraph"));
     }

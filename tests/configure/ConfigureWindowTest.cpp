@@ -1,5 +1,9 @@
 #include "ConfigureFixture.h"
 
+#include "model/ZOLDMClipboard.h"
+#include "model/ZOLDMTools.h"
+#include "panels/ZOLDMDlgResultPanel.h"
+
 #include <filesystem>
 #include <fstream>
 
@@ -160,6 +164,26 @@ TEST_F(ConfigureWindowTest, ARuleThatCannotBeReadIsNamedAndLeftOut) {
     Click("COLOUR", "RED");
     Driver::PointAt(viewer, Node("LAMP", "LED"));
     EXPECT_TRUE(Sees("LED (LAMP) is chosen by the rules")) << "the other rule binds";
+}
+
+TEST_F(ConfigureWindowTest, WithoutProductsTheOneUsedLastComesBack) {
+    struct Host : ZOLDMDlgResultPanel {
+        int KeepsProducts() const override { return 1; }
+    } host;
+    Show({});
+    EXPECT_TRUE(Sees("(no product)"));
+    EXPECT_TRUE(Sees("no options"));
+    ZOLListValZOLDMInstance copied;
+    copied.Append(Part("BIKE"));
+    ZOLDMClipboard::SetObjects(copied);
+    Driver::Menu(Driver::Find(window, "ProdContextManager"), "PasteNewItem");
+    EXPECT_NE(Node("COLOUR", "RED"), nullptr);
+    Driver::CloseWindow(window);
+    Show({});
+    EXPECT_NE(Node("COLOUR", "RED"), nullptr);
+    const ZOLUnicodeString file = ZOLDMTools::ZOLDMDefaultDirectory() + Part("BIKE").GetLeadingString() +
+                                  "." + Part("BIKE").GetXCoid() + ".Products";
+    EXPECT_TRUE(std::filesystem::exists(file.Bytes())) << file.Bytes();
 }
 
 TEST_F(ConfigureWindowTest, TheDictionaryMayChangeOrGoUnderTheWindow) {

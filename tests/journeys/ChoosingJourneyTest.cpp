@@ -281,6 +281,14 @@ TEST_F(ChoosingJourneyTest, WhatIsChosenInACategoryOutOfSightIsKept) {
     ASSERT_EQ(Node("LAMP", "LED"), nullptr);
     EXPECT_TRUE(Sees("chosen by you: 1"));
     EXPECT_EQ(InProgram(AskProgram()), (States{{"LED", ByYou}, {"HALOGEN", NotByYou}}));
+    Press("ClearAll");
+    Driver::Type(Driver::Find(window, "RapidSelectField"), "HALOGEN");
+    Press("RapidSelect");
+    EXPECT_EQ(InProgram(AskProgram()), (States{{"LED", NotByRules}, {"HALOGEN", ByYou}}));
+    Press("Undo");
+    Press("Undo");
+    EXPECT_EQ(InProgram(AskProgram()), (States{{"LED", ByYou}, {"HALOGEN", NotByYou}}));
+    Press("ClearAll");
     OpenKept();
     EXPECT_TRUE(Sees("chosen by you: 1"));
 }
