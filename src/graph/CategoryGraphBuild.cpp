@@ -80,6 +80,36 @@ void ZOLCategoryGraphViewer::AddCategoryNode(ZOLCategoryNode* node) {
         _nodesByOption.emplace(option->GetOptionName(), node);
 }
 
+// The rules take the exclusivity of a category from its parameters.
+std::unique_ptr<ZOLParameter> ZOLCategoryGraphViewer::ParameterOf(const ZOLQRDCfgEffectivity& term,
+                                                                  const ZOLUnicodeString& category,
+                                                                  const ZOLCategoryNode* node,
+                                                                  const CategoriesByOption& outOfSight) {
+    const auto stored = outOfSight.find(term.GetOptionName());
+    const bool isOutOfSight = category.IsEmpty() && stored != outOfSight.end();
+    auto parameter = std::make_unique<ZOLParameter>(isOutOfSight ? stored->second->GetName() : category,
+                                                    term.GetOptionName(), term.IsRejected());
+    parameter->SetParameterSource(term.IsRuleDefined() ? ZOLParameter::SourceRule : ZOLParameter::SourceUser);
+    if (node)
+        parameter->SetCategoryExclusivity(node->GetExclusivity());
+    else if (stored != outOfSight.end())
+        parameter->SetCategoryExclusivity(stored->second->GetExclusivity());
+    return parameter;
+}
+
+ZOLCategoryGraphViewer::CategoriesByOption ZOLCategoryGraphViewer::CategoriesOutOfSight() const {
+    CategoriesByOption categories;
+    for (const ZOLIQrdCategory_var& category : AllCategories()) {
+        if (NodeOfCategory(category->GetName()))
+            continue;
+        ZOLListValZOLIQrdEffectivity_var options;
+        category->GetOptions(options);
+        for (const ZOLIQrdEffectivity_var& option : options)
+            categories.emplace(option->GetOption(), category);
+    }
+    return categories;
+}
+
 void ZOLCategoryGraphViewer::ChooseTerms(const ZOLListValZOLQRDCfgEffectivity& terms) {
     std::unordered_set<ZOLUnicodeString> told;
     const CategoriesByOption outOfSight = CategoriesOutOfSight();

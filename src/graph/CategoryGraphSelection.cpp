@@ -58,36 +58,6 @@ void ZOLCategoryGraphViewer::SetSelected(const ZOLListValZOLQRDCfgEffectivity& t
         SetCentered(terms[centre]);
 }
 
-// The rules take the exclusivity of a category from its parameters.
-std::unique_ptr<ZOLParameter> ZOLCategoryGraphViewer::ParameterOf(const ZOLQRDCfgEffectivity& term,
-                                                                  const ZOLUnicodeString& category,
-                                                                  const ZOLCategoryNode* node,
-                                                                  const CategoriesByOption& outOfSight) {
-    const auto stored = outOfSight.find(term.GetOptionName());
-    const bool isOutOfSight = category.IsEmpty() && stored != outOfSight.end();
-    auto parameter = std::make_unique<ZOLParameter>(isOutOfSight ? stored->second->GetName() : category,
-                                                    term.GetOptionName(), term.IsRejected());
-    parameter->SetParameterSource(term.IsRuleDefined() ? ZOLParameter::SourceRule : ZOLParameter::SourceUser);
-    if (node)
-        parameter->SetCategoryExclusivity(node->GetExclusivity());
-    else if (stored != outOfSight.end())
-        parameter->SetCategoryExclusivity(stored->second->GetExclusivity());
-    return parameter;
-}
-
-ZOLCategoryGraphViewer::CategoriesByOption ZOLCategoryGraphViewer::CategoriesOutOfSight() const {
-    CategoriesByOption categories;
-    for (const ZOLIQrdCategory_var& category : AllCategories()) {
-        if (NodeOfCategory(category->GetName()))
-            continue;
-        ZOLListValZOLIQrdEffectivity_var options;
-        category->GetOptions(options);
-        for (const ZOLIQrdEffectivity_var& option : options)
-            categories.emplace(option->GetOption(), category);
-    }
-    return categories;
-}
-
 void ZOLCategoryGraphViewer::SetSelected(const ZOLListPtrZOLParameter& parameters, const int resetSaved) {
     if (resetSaved)
         ResetSavedParameters();

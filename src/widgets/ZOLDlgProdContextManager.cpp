@@ -14,7 +14,6 @@
 
 #include <cstdint>
 #include <utility>
-#include <vector>
 
 using trellis::KeptFile;
 using trellis::ProductHistory;
@@ -132,7 +131,7 @@ void ZOLDlgProdContextManager::SetProduct(const ZOLListValZOLDMInstance& product
 
 // Without telling anybody.
 void ZOLDlgProdContextManager::TakeProducts(const ZOLListValZOLDMInstance& products) {
-    EmptyMenu(); // its items name places in the history
+    _menu->Empty(); // its items name places in the history
     _products = products;
     _isFileRead = 0;
     int index = 0;
@@ -180,11 +179,6 @@ void ZOLDlgProdContextManager::ResetProductsCB(ZOLCommand*, ZOLNotification*, vo
     SelectProduct(0);
 }
 
-void ZOLDlgProdContextManager::EmptyMenu() {
-    for (ZOLDialog* item : std::vector(_menu->GetChildren()))
-        item->RequestDelayedDestruction();
-}
-
 ZOLDlgPushItem* ZOLDlgProdContextManager::AddItem(const char* name, const ZOLUnicodeString& title,
                                                   ZOLNotificationMethod method, void* data) {
     auto* item = new ZOLDlgPushItem(_menu, name);
@@ -194,7 +188,7 @@ ZOLDlgPushItem* ZOLDlgProdContextManager::AddItem(const char* name, const ZOLUni
 }
 
 void ZOLDlgProdContextManager::MenuDisplayCB(ZOLCommand*, ZOLNotification*, void*) {
-    EmptyMenu();
+    _menu->Empty();
     ZOLDlgPushItem* paste = AddItem("PasteNewItem", Text("PasteNewProduct.Title"),
                                     ZOL_CALLBACK(&ZOLDlgProdContextManager::PasteNewProductCB));
     paste->SetSensitivity(ZOLDMClipboard::GetNbObject() > 0 ? ZOLActive : ZOLGreyed);

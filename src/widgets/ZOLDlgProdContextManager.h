@@ -55,7 +55,6 @@ private:
     void TakeProducts(const ZOLListValZOLDMInstance& products);
     int JoinUsedProducts(int index);
     void SelectProduct(const int index);
-    void EmptyMenu();
     ZOLDlgPushItem* AddItem(const char* name, const ZOLUnicodeString& title,
                             ZOLNotificationMethod method = nullptr, void* data = nullptr);
     ZOLUnicodeString Text(const char* key) const;
