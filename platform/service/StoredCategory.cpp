@@ -7,24 +7,15 @@
 
 namespace trellis {
 
-StoredCategory::StoredCategory(std::weak_ptr<ConfigurationMemory> memory, RecordOf<CategoryRow> record,
-                               RecordOf<ConfigItemRow> item)
-    : StoredHandle(std::move(memory), std::move(record)), _item(std::move(item)) {}
-
 bool StoredCategory::MayChange(ConfigurationMemory& memory, ZOLGYRError& error) const {
-    return MayChangeCategory(memory, _item, Row(), error);
-}
-
-ZOLIQrdConfigItem_var StoredCategory::GetConfigItem() const {
-    const std::shared_ptr<ConfigurationMemory> memory = Memory();
-    return memory ? memory->Handle(_item) : nullptr;
+    return MayChangeCategory(memory, Item(), Row(), error);
 }
 
 void StoredCategory::SetName(const ZOLUnicodeString& name, ZOLGYRError& error) {
     const std::shared_ptr<ConfigurationMemory> memory = Memory();
     if (!IsDictionaryName(name, error) || !SetMember(&CategoryRow::name, name.Bytes(), error) || !memory)
         return;
-    if (ItemContent* content = memory->Content(_item, error))
+    if (ItemContent* content = memory->Content(Item(), error))
         content->IndexIsStale();
 }
 
@@ -57,7 +48,7 @@ void StoredCategory::RemoveOption(const ZOLIQrdEffectivity_var& option, ZOLGYREr
     const auto* stored = dynamic_cast<const StoredEffectivity*>(option.Get());
     if (!memory || !stored)
         return;
-    ItemContent* content = memory->Content(_item, error);
+    ItemContent* content = memory->Content(Item(), error);
     const RecordOf<EffectivityRow> record = content ? content->Effectivity(stored->Record()->Id()) : nullptr;
     if (!record || record->Row().category != Record()->Id() || !MayChange(*memory, error))
         return;
@@ -68,11 +59,11 @@ void StoredCategory::GetOptions(ZOLListValZOLIQrdEffectivity_var& options) const
     options.RemoveAll();
     FailureTrace trace("ZOLIQrdCategory::GetOptions");
     const std::shared_ptr<ConfigurationMemory> memory = Memory();
-    ItemContent* content = memory ? memory->Content(_item, trace) : nullptr;
+    ItemContent* content = memory ? memory->Content(Item(), trace) : nullptr;
     if (!content)
         return;
     for (const auto& option : content->OptionsOf(Record()->Id()))
-        options.Append(memory->Handle(option, _item));
+        options.Append(memory->Handle(option, Item()));
 }
 
 std::vector<std::int64_t> StoredCategory::DefaultIds(ItemContent& content) const {
@@ -87,11 +78,11 @@ void StoredCategory::GetDefaultOptions(ZOLListValZOLIQrdEffectivity_var& options
     options.RemoveAll();
     FailureTrace trace("ZOLIQrdCategory::GetDefaultOptions");
     const std::shared_ptr<ConfigurationMemory> memory = Memory();
-    ItemContent* content = memory ? memory->Content(_item, trace) : nullptr;
+    ItemContent* content = memory ? memory->Content(Item(), trace) : nullptr;
     if (!content)
         return;
     for (const std::int64_t id : DefaultIds(*content))
-        options.Append(memory->Handle(content->Effectivity(id), _item));
+        options.Append(memory->Handle(content->Effectivity(id), Item()));
 }
 
 void StoredCategory::SetDefaultOptions(const ZOLListValZOLIQrdEffectivity_var& options, ZOLGYRError& error) {
@@ -100,7 +91,7 @@ void StoredCategory::SetDefaultOptions(const ZOLListValZOLIQrdEffectivity_var& o
         RefuseDead(*Record(), error);
         return;
     }
-    ItemContent* content = memory->Content(_item, error);
+    ItemContent* content = memory->Content(Item(), error);
     if (!content)
         return;
     std::vector<std::int64_t> wanted;

@@ -1,19 +1,15 @@
 #pragma once
 
-#include "service/StoredHandle.h"
+#include "service/StoredPart.h"
 #include "service/ZOLIQrdCategory.h"
 
 namespace trellis {
 
 // StoredCategory: a category over its row and the rows of its defaults.
-class StoredCategory final : public StoredHandle<ZOLIQrdCategory, CategoryRow> {
+class StoredCategory final : public StoredPart<ZOLIQrdCategory, CategoryRow> {
 public:
-    StoredCategory(std::weak_ptr<ConfigurationMemory> memory, RecordOf<CategoryRow> record,
-                   RecordOf<ConfigItemRow> item);
+    using StoredPart::StoredPart;
 
-    const RecordOf<ConfigItemRow>& Item() const { return _item; }
-
-    ZOLIQrdConfigItem_var GetConfigItem() const override;
     ZOLUnicodeString GetName() const override { return Row().name; }
     void SetName(const ZOLUnicodeString& name, ZOLGYRError& error) override;
     ZOLUnicodeString GetDescription() const override { return Row().description; }
@@ -32,15 +28,11 @@ public:
     void SetOwner(const ZOLUnicodeString& owner, ZOLGYRError& error) override;
     ZOLUnicodeString GetOrganization() const override { return Row().organization; }
     void SetOrganization(const ZOLUnicodeString& organization, ZOLGYRError& error) override;
-    ZOLUnicodeString GetLastModifierId() const override { return LastModifier(); }
-    ZOLUnicodeString GetLastUpdateDate() const override { return LastUpdateDay(); }
 
 private:
     bool MayChange(ConfigurationMemory& memory, ZOLGYRError& error) const override;
     // Ids of the living default options, in order.
     std::vector<std::int64_t> DefaultIds(ItemContent& content) const;
-
-    RecordOf<ConfigItemRow> _item;
 };
 
 } // namespace trellis

@@ -9,17 +9,8 @@
 
 namespace trellis {
 
-StoredEffectivity::StoredEffectivity(std::weak_ptr<ConfigurationMemory> memory,
-                                     RecordOf<EffectivityRow> record, RecordOf<ConfigItemRow> item)
-    : StoredHandle(std::move(memory), std::move(record)), _item(std::move(item)) {}
-
 bool StoredEffectivity::MayChange(ConfigurationMemory& memory, ZOLGYRError& error) const {
-    return MayChangeEffectivity(memory, _item, Row(), error);
-}
-
-ZOLIQrdConfigItem_var StoredEffectivity::GetConfigItem() const {
-    const std::shared_ptr<ConfigurationMemory> memory = Memory();
-    return memory ? memory->Handle(_item) : nullptr;
+    return MayChangeEffectivity(memory, Item(), Row(), error);
 }
 
 void StoredEffectivity::SetDescription(const ZOLUnicodeString& description, ZOLGYRError& error) {
@@ -35,7 +26,7 @@ void StoredEffectivity::SetOption(const ZOLUnicodeString& name, ZOLGYRError& err
     if (!IsDictionaryName(name, error) || !SetMember(&EffectivityRow::optionName, name.Bytes(), error) ||
         !memory)
         return;
-    if (ItemContent* content = memory->Content(_item, error))
+    if (ItemContent* content = memory->Content(Item(), error))
         content->IndexIsStale();
 }
 
@@ -47,7 +38,7 @@ void StoredEffectivity::GetPackOptions(ZOLListValZOLUnicodeString& options) cons
     options.RemoveAll();
     FailureTrace trace("ZOLIQrdEffectivity::GetPackOptions");
     const std::shared_ptr<ConfigurationMemory> memory = Memory();
-    ItemContent* content = memory ? memory->Content(_item, trace) : nullptr;
+    ItemContent* content = memory ? memory->Content(Item(), trace) : nullptr;
     if (!content)
         return;
     for (const auto& option : content->PackOptionsOf(Record()->Id()))
@@ -64,7 +55,7 @@ void StoredEffectivity::SetPackOptions(const ZOLListValZOLUnicodeString& options
     GetPackOptions(present);
     if (std::ranges::equal(present, options) || !MayChange(*memory, error))
         return;
-    if (ItemContent* content = memory->Content(_item, error))
+    if (ItemContent* content = memory->Content(Item(), error))
         SetPackOptionRows(*memory, *content, Record()->Id(), options, error);
 }
 
@@ -77,7 +68,7 @@ ZOLQRDCfgEffectivity StoredEffectivity::GetTerm() const {
 
     FailureTrace trace("ZOLIQrdEffectivity::GetTerm");
     const std::shared_ptr<ConfigurationMemory> memory = Memory();
-    ItemContent* content = memory ? memory->Content(_item, trace) : nullptr;
+    ItemContent* content = memory ? memory->Content(Item(), trace) : nullptr;
     if (!content)
         return term;
     ZOLListValZOLUnicodeString names;

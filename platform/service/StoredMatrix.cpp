@@ -11,17 +11,8 @@
 
 namespace trellis {
 
-StoredMatrix::StoredMatrix(std::weak_ptr<ConfigurationMemory> memory, RecordOf<CompatibilityMatrixRow> record,
-                           RecordOf<ConfigItemRow> item)
-    : StoredHandle(std::move(memory), std::move(record)), _item(std::move(item)) {}
-
 bool StoredMatrix::MayChange(ConfigurationMemory& memory, ZOLGYRError& error) const {
-    return MayChangeMatrix(memory, _item, Row(), error);
-}
-
-ZOLIQrdConfigItem_var StoredMatrix::GetConfigItem() const {
-    const std::shared_ptr<ConfigurationMemory> memory = Memory();
-    return memory ? memory->Handle(_item) : nullptr;
+    return MayChangeMatrix(memory, Item(), Row(), error);
 }
 
 void StoredMatrix::SetName(const ZOLUnicodeString& name, ZOLGYRError& error) {
@@ -29,7 +20,7 @@ void StoredMatrix::SetName(const ZOLUnicodeString& name, ZOLGYRError& error) {
     if (!IsDictionaryName(name, error) || !SetMember(&CompatibilityMatrixRow::name, name.Bytes(), error) ||
         !memory)
         return;
-    if (ItemContent* content = memory->Content(_item, error))
+    if (ItemContent* content = memory->Content(Item(), error))
         content->IndexIsStale();
 }
 
@@ -59,7 +50,7 @@ void StoredMatrix::SetCategories(const ZOLListValZOLIQrdCategory_var& categories
         RefuseDead(*Record(), error);
         return;
     }
-    ItemContent* content = memory->Content(_item, error);
+    ItemContent* content = memory->Content(Item(), error);
     if (!content)
         return;
     std::vector<std::int64_t> wanted;
@@ -77,22 +68,22 @@ void StoredMatrix::GetCategories(ZOLListValZOLIQrdCategory_var& categories) cons
     categories.RemoveAll();
     FailureTrace trace("ZOLIQrdCompatibilityMatrix::GetCategories");
     const std::shared_ptr<ConfigurationMemory> memory = Memory();
-    ItemContent* content = memory ? memory->Content(_item, trace) : nullptr;
+    ItemContent* content = memory ? memory->Content(Item(), trace) : nullptr;
     if (!content)
         return;
     for (const std::int64_t id : CategoryIds(*content))
-        categories.Append(memory->Handle(content->Category(id), _item));
+        categories.Append(memory->Handle(content->Category(id), Item()));
 }
 
 void StoredMatrix::GetRules(ZOLListValZOLIQrdConfigRule_var& rules) const {
     rules.RemoveAll();
     FailureTrace trace("ZOLIQrdCompatibilityMatrix::GetRules");
     const std::shared_ptr<ConfigurationMemory> memory = Memory();
-    ItemContent* content = memory ? memory->Content(_item, trace) : nullptr;
+    ItemContent* content = memory ? memory->Content(Item(), trace) : nullptr;
     if (!content)
         return;
     for (const auto& row : content->RowsOf(Record()->Id()))
-        rules.Append(memory->Handle(row, _item));
+        rules.Append(memory->Handle(row, Item()));
 }
 
 RecordOf<ConfigRuleRow> StoredMatrix::RowToMove(ConfigurationMemory& memory,
@@ -102,7 +93,7 @@ RecordOf<ConfigRuleRow> StoredMatrix::RowToMove(ConfigurationMemory& memory,
         return nullptr;
     }
     const auto* stored = dynamic_cast<const StoredRule*>(rule.Get());
-    ItemContent* content = stored ? memory.Content(_item, error) : nullptr;
+    ItemContent* content = stored ? memory.Content(Item(), error) : nullptr;
     const RecordOf<ConfigRuleRow> record = content ? content->Rule(stored->Record()->Id()) : nullptr;
     if (!record || record->Row().type != ConfigRuleRow::MatrixRow || !MayChange(memory, error))
         return nullptr;
@@ -113,14 +104,14 @@ void StoredMatrix::AddRule(const ZOLIQrdConfigRule_var& rule, ZOLGYRError& error
     const std::shared_ptr<ConfigurationMemory> memory = Memory();
     const RecordOf<ConfigRuleRow> record = memory ? RowToMove(*memory, rule, error) : nullptr;
     if (record && record->Row().matrix != Record()->Id())
-        PutIntoMatrix(*memory, _item, record, Record()->Id(), error);
+        PutIntoMatrix(*memory, Item(), record, Record()->Id(), error);
 }
 
 void StoredMatrix::RemoveRule(const ZOLIQrdConfigRule_var& rule, ZOLGYRError& error) {
     const std::shared_ptr<ConfigurationMemory> memory = Memory();
     const RecordOf<ConfigRuleRow> record = memory ? RowToMove(*memory, rule, error) : nullptr;
     if (record && record->Row().matrix == Record()->Id())
-        PutIntoMatrix(*memory, _item, record, 0, error);
+        PutIntoMatrix(*memory, Item(), record, 0, error);
 }
 
 } // namespace trellis

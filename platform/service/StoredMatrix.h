@@ -1,19 +1,15 @@
 #pragma once
 
-#include "service/StoredHandle.h"
+#include "service/StoredPart.h"
 #include "service/ZOLIQrdCompatibilityMatrix.h"
 
 namespace trellis {
 
 // StoredMatrix: a compatibility matrix over its row and the rows of its columns.
-class StoredMatrix final : public StoredHandle<ZOLIQrdCompatibilityMatrix, CompatibilityMatrixRow> {
+class StoredMatrix final : public StoredPart<ZOLIQrdCompatibilityMatrix, CompatibilityMatrixRow> {
 public:
-    StoredMatrix(std::weak_ptr<ConfigurationMemory> memory, RecordOf<CompatibilityMatrixRow> record,
-                 RecordOf<ConfigItemRow> item);
+    using StoredPart::StoredPart;
 
-    const RecordOf<ConfigItemRow>& Item() const { return _item; }
-
-    ZOLIQrdConfigItem_var GetConfigItem() const override;
     ZOLUnicodeString GetName() const override { return Row().name; }
     void SetName(const ZOLUnicodeString& name, ZOLGYRError& error) override;
     ZOLUnicodeString GetDescription() const override { return Row().description; }
@@ -27,8 +23,6 @@ public:
     void SetOwner(const ZOLUnicodeString& owner, ZOLGYRError& error) override;
     ZOLUnicodeString GetOrganization() const override { return Row().organization; }
     void SetOrganization(const ZOLUnicodeString& organization, ZOLGYRError& error) override;
-    ZOLUnicodeString GetLastModifierId() const override { return LastModifier(); }
-    ZOLUnicodeString GetLastUpdateDate() const override { return LastUpdateDay(); }
 
 private:
     bool MayChange(ConfigurationMemory& memory, ZOLGYRError& error) const override;
@@ -37,8 +31,6 @@ private:
     // The record of a row of this matrix's dictionary that the user may put in and take out; null when it is none.
     RecordOf<ConfigRuleRow> RowToMove(ConfigurationMemory& memory, const ZOLIQrdConfigRule_var& rule,
                                       ZOLGYRError& error) const;
-
-    RecordOf<ConfigItemRow> _item;
 };
 
 } // namespace trellis

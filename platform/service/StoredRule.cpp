@@ -7,23 +7,14 @@
 
 namespace trellis {
 
-StoredRule::StoredRule(std::weak_ptr<ConfigurationMemory> memory, RecordOf<ConfigRuleRow> record,
-                       RecordOf<ConfigItemRow> item)
-    : StoredHandle(std::move(memory), std::move(record)), _item(std::move(item)) {}
-
 bool StoredRule::MayChange(ConfigurationMemory& memory, ZOLGYRError& error) const {
-    return MayChangeRule(memory, _item, Row(), error);
-}
-
-ZOLIQrdConfigItem_var StoredRule::GetConfigItem() const {
-    const std::shared_ptr<ConfigurationMemory> memory = Memory();
-    return memory ? memory->Handle(_item) : nullptr;
+    return MayChangeRule(memory, Item(), Row(), error);
 }
 
 RecordOf<CompatibilityMatrixRow> StoredRule::Matrix() const {
     FailureTrace trace("StoredRule::Matrix");
     const std::shared_ptr<ConfigurationMemory> memory = Row().matrix != 0 ? Memory() : nullptr;
-    ItemContent* content = memory ? memory->Content(_item, trace) : nullptr;
+    ItemContent* content = memory ? memory->Content(Item(), trace) : nullptr;
     return content ? content->Matrix(Row().matrix) : nullptr;
 }
 
@@ -43,7 +34,7 @@ ZOLUnicodeString StoredRule::GetRuleString() const {
 
 void StoredRule::NamesChanged(ZOLGYRError& error) {
     const std::shared_ptr<ConfigurationMemory> memory = Memory();
-    if (ItemContent* content = memory ? memory->Content(_item, error) : nullptr)
+    if (ItemContent* content = memory ? memory->Content(Item(), error) : nullptr)
         content->IndexIsStale();
 }
 

@@ -1,19 +1,15 @@
 #pragma once
 
-#include "service/StoredHandle.h"
+#include "service/StoredPart.h"
 #include "service/ZOLIQrdConfigRule.h"
 
 namespace trellis {
 
 // StoredRule: a rule over its row, and over the rows of what it names.
-class StoredRule final : public StoredHandle<ZOLIQrdConfigRule, ConfigRuleRow> {
+class StoredRule final : public StoredPart<ZOLIQrdConfigRule, ConfigRuleRow> {
 public:
-    StoredRule(std::weak_ptr<ConfigurationMemory> memory, RecordOf<ConfigRuleRow> record,
-               RecordOf<ConfigItemRow> item);
+    using StoredPart::StoredPart;
 
-    const RecordOf<ConfigItemRow>& Item() const { return _item; }
-
-    ZOLIQrdConfigItem_var GetConfigItem() const override;
     ZOLUnicodeString GetName() const override { return Row().name; }
     void SetName(const ZOLUnicodeString& name, ZOLGYRError& error) override;
     ZOLUnicodeString GetRuleString() const override;
@@ -23,8 +19,6 @@ public:
     ZOLUnicodeString GetOrganization() const override;
     ZOLUnicodeString GetDescription() const override { return Row().description; }
     void SetDescription(const ZOLUnicodeString& description, ZOLGYRError& error) override;
-    ZOLUnicodeString GetLastModifierId() const override { return LastModifier(); }
-    ZOLUnicodeString GetLastUpdateDate() const override { return LastUpdateDay(); }
     void SetOwner(const ZOLUnicodeString& owner, ZOLGYRError& error) override;
     void SetOrganization(const ZOLUnicodeString& organization, ZOLGYRError& error) override;
 
@@ -33,8 +27,6 @@ private:
     // The row of the matrix in which it stands, or null.
     RecordOf<CompatibilityMatrixRow> Matrix() const;
     void NamesChanged(ZOLGYRError& error);
-
-    RecordOf<ConfigItemRow> _item;
 };
 
 } // namespace trellis
