@@ -23,11 +23,21 @@ namespace {
 constexpr int Width = 351;
 constexpr int Height = 137;
 
+// A graph owns no node; this one ends with those that it was given.
+class LegendGraph : public ZOLGraphViewer {
+public:
+    using ZOLGraphViewer::ZOLGraphViewer;
+    ~LegendGraph() override {
+        while (ZOLGraphNode* node = GetGraph()->firstNode())
+            delete node;
+    }
+};
+
 } // namespace
 
 ZOLGraphViewer* ColorLegend::AddGraph(ZOLDialog* frame, const char* label, const char* name) {
     new ZOLDlgLabel(frame, label);
-    auto* graph = new ZOLGraphViewer(frame, name, 0x80000, Width, Height, 0);
+    auto* graph = new LegendGraph(frame, name, 0x80000, Width, Height, 0);
     graph->defineEventManagement(0);
     return graph;
 }

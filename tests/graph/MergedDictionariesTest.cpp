@@ -92,12 +92,12 @@ TEST_F(MergedDictionaries, NamesThatBothHaveAreOfferedOnce) {
     Driver::Press(Find("OptSearch"));
     const std::string search = Driver::Describe(Find("SearchOptPanel"));
     EXPECT_EQ(Count(search, "BLUE"), Count(search, "GREEN")) << search;
-    Driver::Type(Find("RapidSelectField"), "BL");
+    Driver::Type(Find("RapidSelectField"), "BLUE");
     Driver::Press(Find("RapidSelect"));
-    EXPECT_EQ(Terms(0), "+BLUE -GREEN -RED ") << "BLUE fits twice, and is one option";
+    EXPECT_EQ(Terms(0), "+BLUE -GREEN -RED ") << "one option, though two dictionaries have it";
     Driver::Press(Find("Categories"));
     const std::string shown = Driver::Describe(Find("CheckListPanel"));
-    EXPECT_EQ(Count(shown, "\"COLOUR\""), 1) << shown;
+    EXPECT_EQ(Count(shown, "COLOUR ("), 1) << shown;
     Driver::Ok(Find("CheckListPanel"));
     EXPECT_NE(Node("COLOUR", "GREEN"), nullptr);
     EXPECT_EQ(Terms(0), "+BLUE -GREEN -RED ");
