@@ -96,6 +96,8 @@ bool MotifInput::Takes(XEvent& event) {
     // The native menu would take the release for the next press of that key, which closes it.
     if (event.type == KeyRelease && event.xkey.keycode == _menuKey)
         return _menuKey = 0, true;
+    if (event.type == KeyPress && event.xkey.state & Mod1Mask) // and a quick hand lets go of Alt before the letter
+        _menuKey = event.xkey.keycode;
     if (event.type == ButtonPress && _view.IsMenuOpen())
         MotifQuirks::EndMenuClick(_view.GetApplication());
     if (!window || _view.IsMenuOpen())

@@ -33,10 +33,8 @@ void ZOLCategoryGraphViewer::BuildGraph(const ZOLListValZOLQRDCfgEffectivity& te
     IgnoreCategories(_ignored);
     if (_areRulesOn)
         PlayRules();
-    else if (_current.Size() > 0)
-        UpdateWithParameters();
     else
-        TellShown();
+        UpdateWithParameters();
     SetInitialSelection(_current, _ignored);
     SaveCurrentParameters();
     UpdateLayout();
@@ -172,6 +170,7 @@ void ZOLCategoryGraphViewer::ClearAll(const int ignore) {
     _ignored.RemoveAll();
     for (ZOLCategoryNode* node : _nodes) {
         node->ClearDefined();
+        node->ClearConflicts();
         if (!ignore)
             continue;
         node->SetIgnored(0);

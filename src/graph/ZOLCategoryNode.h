@@ -52,7 +52,7 @@ public:
     // End the states that their names tell, and the marks of conflicts.
     void ClearSelected();
     void ClearRejected();
-    // All states; hidden options show again.
+    // All states; options that were hidden show again in an open category.
     void ClearDefined();
     void ClearUserSelected();
     void ClearUserRejected();

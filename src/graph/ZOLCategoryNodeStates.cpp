@@ -75,8 +75,9 @@ void ZOLCategoryNode::ClearRejected() {
 }
 
 void ZOLCategoryNode::ClearDefined() {
-    for (ZOLOptionNode* option : _options)
-        option->Show();
+    if (_isOpen)
+        for (ZOLOptionNode* option : _options)
+            option->Show();
     Unset({&ZOLOptionNode::IsSelected}, {&ZOLOptionNode::IsRejected});
 }
 

@@ -275,6 +275,9 @@ TEST_F(CategoryGraph, AnIgnoredCategoryIsNoChoiceAndIgnoredOnceHoweverOftenItIsT
 
 TEST_F(CategoryGraph, BranchesOpenAndCloseWithTheRoot) {
     Show(0);
+    Driver::Click(viewer, Driver::Node(viewer, {"Options", "COLOUR (COLOUR)"}));
+    Click("LAMP", "LED");
+    EXPECT_EQ(Node("COLOUR", "RED"), nullptr) << "what was closed stays so while one chooses elsewhere";
     Driver::Click(viewer, viewer->GetRootNode());
     EXPECT_EQ(Node("COLOUR", "RED"), nullptr);
     Driver::Click(viewer, Driver::Node(viewer, {"Options", "COLOUR (COLOUR)"}));

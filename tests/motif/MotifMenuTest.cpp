@@ -193,8 +193,10 @@ TEST_F(MotifMenuTest, TheBarIsWalkedByKeyboard) {
     EXPECT_TRUE(tools->IsOpen());
     _user->Press("Return");
     EXPECT_EQ(panel->heard, (Heard{"Tools", "Check"}));
-    _user->Press("p", {"Alt_L"});
-    EXPECT_TRUE(part->IsOpen());
-    _user->Press("Escape");
-    EXPECT_FALSE(part->IsOpen());
+    for (const auto release : {ScreenUser::Release::KeyFirst, ScreenUser::Release::KeyLast}) {
+        _user->Press("p", {"Alt_L"}, release);
+        EXPECT_TRUE(part->IsOpen());
+        _user->Press("Escape");
+        EXPECT_FALSE(part->IsOpen());
+    }
 }

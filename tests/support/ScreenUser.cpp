@@ -232,11 +232,16 @@ void ScreenUser::PressCloseBox(ZOLDialog& window) {
     Settle();
 }
 
-void ScreenUser::Press(const std::string& key, const Modifiers& modifiers) {
+void ScreenUser::Press(const std::string& key, const Modifiers& modifiers, Release release) {
     SendKeys(modifiers, true);
     SendKey(key, true);
-    SendKey(key, false);
+    if (release == Release::KeyFirst)
+        SendKey(key, false);
+    else
+        Settle(); // what the key opened is there when it goes up
     SendKeys(modifiers, false);
+    if (release == Release::KeyLast)
+        SendKey(key, false);
     Settle();
 }
 

@@ -68,8 +68,10 @@ public:
     // What a window manager does when its close box is clicked.
     void PressCloseBox(ZOLDialog& window);
 
+    // Whether a key goes up before the modifiers that are held with it, or after them, as in a quick hand.
+    enum class Release { KeyFirst, KeyLast };
     // A key of the server's keyboard by its name, such as "Return" or "a".
-    void Press(const std::string& key, const Modifiers& modifiers = {});
+    void Press(const std::string& key, const Modifiers& modifiers = {}, Release release = Release::KeyFirst);
     // Key by key. ASCII alone; a line feed is Return.
     void Type(const std::string& text);
 
