@@ -4,9 +4,6 @@
 #include "entry/ZOLDictionary.h"
 #include "model/ZOLDMInstance.h"
 #include "panels/ZOLGYRDlgError.h"
-#include "session/FileDialog.h"
-#include "session/KeptSelection.h"
-#include "toolkit/GraphExport.h"
 #include "toolkit/ZOLDlgEditor.h"
 #include "toolkit/ZOLDlgLabel.h"
 #include "toolkit/ZOLDlgMenuBar.h"
@@ -15,11 +12,11 @@
 #include "toolkit/ZOLDlgPushItem.h"
 #include "toolkit/ZOLDlgSeparatorItem.h"
 #include "toolkit/ZOLDlgSubMenu.h"
+#include "toolkit/ZOLGraphNode.h"
 #include "toolkit/ZOLUserDriver.h"
 #include "values/ZOLGYRError.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <tuple>
 
 namespace trellis {
@@ -29,12 +26,10 @@ namespace {
 constexpr int ModuleNotLoaded = 60600;
 constexpr unsigned long Plain = 0x80000;
 constexpr unsigned long SeveralLinesReadOnly = 0x4080000;
-constexpr unsigned long QuestionStyle = 0x2000000;
 constexpr int Beside = 1;
 constexpr int WhyWidth = 90; // in characters
 constexpr int WhyLines = 3;
 constexpr int MostListed = 12; // in a message
-constexpr int Ok = 1;
 constexpr LayoutSize UsualSize = {1160, 780};
 
 ZOLUnicodeString Number(int number) {
@@ -144,11 +139,12 @@ void ConfigureWindow::ShownCB(ZOLCommand*, ZOLNotification*, void*) {
 }
 
 void ConfigureWindow::PointCB(ZOLCommand*, ZOLNotification* notification, void*) {
-    const ZOLGraphNode* node = static_cast<ZOLNodePointNotification*>(notification)->GetNode();
+    ZOLGraphNode* node = static_cast<ZOLNodePointNotification*>(notification)->GetNode();
     std::optional<ZOLParameter> looked = node ? _panel->GetOption(node) : std::nullopt;
     if (!looked || looked == _looked) // what was read last stays while the pointer is on its way
         return;
     _looked = looked;
+    _lookedNode = WeakCommand(node);
     ShowWhy();
 }
 
@@ -176,6 +172,10 @@ void ConfigureWindow::ShowWhy() {
         Text(keys[state], {_looked->GetOption(), _looked->GetCategory(), _reasons->ChosenInstead(*_looked)});
     if (const auto reasons = _reasons->Why(*_looked); !reasons.empty())
         text += "\n" + Joined(reasons);
+    if (const auto* node = static_cast<ZOLGraphNode*>(_lookedNode.Get()))
+        text += node->getAlert() == NodeAlert::Conflict       ? "\n" + Text("IsInConflict.Msg")
+                : node->getAlert() == NodeAlert::Irresolution ? "\n" + Text("IsWanted.Msg")
+                                                              : ZOLUnicodeString();
     _why->SetText(text);
     _why->SetSelection(0, -1); // the beginning in sight
 }
@@ -206,69 +206,6 @@ void ConfigureWindow::Tell(const char* box, const std::vector<ZOLUnicodeString>&
 
 void ConfigureWindow::LeftOutCB(ZOLCommand*, ZOLNotification*, void*) {
     Tell("LeftOutRules", _reasons->RulesLeftOut());
-}
-
-void ConfigureWindow::OpenSelectionCB(ZOLCommand*, ZOLNotification*, void*) {
-    auto* dialog = new FileDialog(this, "OpenSelection", "ConfigureOpen", "selection.json");
-    ZOLUnicodeString path;
-    const bool isNamed = dialog->Ask(path);
-    dialog->RequestDelayedDestruction();
-    if (!isNamed)
-        return;
-    ZOLGYRError error;
-    if (const auto selection = KeptSelection::Read(path.Bytes(), error))
-        Choose(*selection);
-    Report(error);
-}
-
-void ConfigureWindow::Choose(KeptSelection selection) {
-    const std::vector<ZOLParameter> unknown = selection.TakeOutUnknown(_panel->GetDictionaries());
-    ZOLListPtrZOLParameter chosen;
-    for (const ZOLParameter& choice : selection.choices)
-        chosen.Append(new ZOLParameter(choice));
-    _panel->ChooseInstead(chosen, selection.ignoredCategories);
-    std::vector<ZOLUnicodeString> lines;
-    for (const ZOLParameter& choice : unknown)
-        lines.push_back(choice.GetParameterString(1));
-    if (!lines.empty())
-        Tell("UnknownOptions", lines);
-}
-
-bool ConfigureWindow::AskFileToWrite(const char* name, const char* resourceFile, const char* proposed,
-                                     ZOLUnicodeString& path) {
-    auto* dialog = new FileDialog(this, name, resourceFile, proposed);
-    const bool isNamed = dialog->Ask(path);
-    dialog->RequestDelayedDestruction();
-    std::error_code none;
-    if (!isNamed || !std::filesystem::exists(path.Bytes(), none))
-        return isNamed;
-    ZOLDlgNotify question(this, "ConfirmOverwrite", QuestionStyle);
-    question.SetOKTitle(Text("ConfirmOverwrite.OK"));
-    question.SetCANCELTitle(Text("ConfirmOverwrite.Cancel"));
-    return question.DisplayBlocked(Text("ConfirmOverwrite.Msg", {path}), Text("ConfirmOverwrite.Title")) ==
-           Ok;
-}
-
-void ConfigureWindow::SaveSelectionCB(ZOLCommand*, ZOLNotification*, void*) {
-    ZOLUnicodeString path;
-    if (!AskFileToWrite("SaveSelection", "ConfigureSave", "selection.json", path))
-        return;
-    KeptSelection selection;
-    selection.product = ProductName().Bytes();
-    selection.choices = _reasons->KnownChoices();
-    selection.ignoredCategories = _reasons->IgnoredCategories();
-    ZOLGYRError error;
-    selection.Write(path.Bytes(), error);
-    Report(error);
-}
-
-void ConfigureWindow::SavePictureCB(ZOLCommand*, ZOLNotification*, void*) {
-    ZOLUnicodeString path;
-    if (!AskFileToWrite("SavePicture", "NavigatorPicture", "options.svg", path))
-        return;
-    ZOLGYRError error;
-    GraphExport::Save(*_panel->GetViewer()->GetGraph(), path, GraphExport::FormatOf(path), error);
-    Report(error);
 }
 
 void ConfigureWindow::HelpCB(ZOLCommand*, ZOLNotification*, void*) {

@@ -60,6 +60,7 @@ private:
     ZOLIQRDCategoryGraph* _panel = nullptr;
     std::optional<SelectionReasons> _reasons; // of the panel
     std::optional<ZOLParameter> _looked;      // the option that the user looks at
+    WeakCommand _lookedNode;                  // its node, until the graph is built anew
     ZOLDialog* _conflictBar = nullptr;
     ZOLDlgLabel* _conflict = nullptr;
     ZOLDialog* _leftOutBar = nullptr;

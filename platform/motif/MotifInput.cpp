@@ -87,6 +87,7 @@ ZOLDialog& MotifInput::KeyboardIn(ZOLDialog& window) const {
 bool MotifInput::Takes(XEvent& event) {
     ZOLDialog* window = WindowOf(event);
     MotifQuirks::TellApart(event);
+    KeepAlt(event);
     WatchToolTip(event, window);
     if (event.type == MotionNotify || event.type == EnterNotify || event.type == LeaveNotify) {
         const bool isTaken = event.type != MotionNotify && window && _view.IsAsking();
@@ -96,8 +97,6 @@ bool MotifInput::Takes(XEvent& event) {
     // The native menu would take the release for the next press of that key, which closes it.
     if (event.type == KeyRelease && event.xkey.keycode == _menuKey)
         return _menuKey = 0, true;
-    if (event.type == KeyPress && event.xkey.state & Mod1Mask) // and a quick hand lets go of Alt before the letter
-        _menuKey = event.xkey.keycode;
     if (event.type == ButtonPress && _view.IsMenuOpen())
         MotifQuirks::EndMenuClick(_view.GetApplication());
     if (!window || _view.IsMenuOpen())
@@ -114,6 +113,14 @@ bool MotifInput::Takes(XEvent& event) {
         _view.ActivateWindow(*window);
     }
     return event.type == KeyPress && !IsInMenuBar(event) && TakesKey(event.xkey, *window);
+}
+
+// The native bar opens a menu only when its letter goes up with Alt held. A quick hand lets go of Alt first.
+void MotifInput::KeepAlt(XEvent& event) {
+    if (event.type == KeyPress)
+        _altKey = event.xkey.state & Mod1Mask ? event.xkey.keycode : 0;
+    else if (event.type == KeyRelease && event.xkey.keycode == _altKey)
+        event.xkey.state |= Mod1Mask;
 }
 
 // Lists and graphs scroll by themselves, whether they are at their end or not.

@@ -41,6 +41,7 @@ private:
     const ZOLDialog* DialogAround(Widget widget) const;
     // The window of ours in whose shell the event happened; null when it was in a menu or an unfolded list.
     ZOLDialog* WindowOf(const XEvent& event) const;
+    void KeepAlt(XEvent& event);
     // The dialog that has the keyboard in the shell of a window, else the window.
     ZOLDialog& KeyboardIn(ZOLDialog& window) const;
 
@@ -48,6 +49,7 @@ private:
     const MotifFocus _focus;
     std::array<XtEventDispatchProc, types.size()> _native = {};
     static inline MotifInput* _instance = nullptr;
+    unsigned _altKey = 0;   // that went down last, with Alt held
     unsigned _menuKey = 0;  // that has opened a menu and is still held
     long _underPointer = 0; // the dialog that was told so last
     long _lastWindow = 0;   // that got a key or a press; 0 after a menu or an unfolded list

@@ -58,6 +58,21 @@ TEST_F(ConfigureWindowTest, AConflictIsEndedByOneStepAndThatIsTakenBack) {
     EXPECT_FALSE(Sees("cannot stand together"));
 }
 
+TEST_F(ConfigureWindowTest, WhatARuleWantsAndWhatClashesIsSaidOfTheOption) {
+    Rule(R"(if "RED" then "BELL" or "RACK")");
+    Rule(R"(if "BLUE" then "LED")");
+    Show();
+    Click("COLOUR", "RED");
+    Driver::PointAt(viewer, Node("EXTRA", "BELL"));
+    EXPECT_TRUE(Sees("A rule that holds wants it"));
+    Click("EXTRA", "BELL");
+    EXPECT_FALSE(Sees("A rule that holds wants it"));
+    Click("LAMP", "HALOGEN");
+    Click("COLOUR", "BLUE");
+    Driver::PointAt(viewer, Node("COLOUR", "BLUE"));
+    EXPECT_TRUE(Sees("cannot stand with your other choices"));
+}
+
 TEST_F(ConfigureWindowTest, TwoChoicesOfOneCategoryAreRepairedWithWhatWentWithThem) {
     Option(colour, "GREEN");
     Show();
