@@ -58,7 +58,7 @@ private:
             return;
         }
         for (const ZOLParameter& unknown : kept->TakeOutUnknown({_dictionary})) {
-            error.Set(NoSuchOption, 0, {unknown.GetOption()});
+            error.Set(NoSuchOption, 0, {unknown.GetCategory() + "." + unknown.GetOption()});
             problems.push_back(error);
         }
         given = kept->choices;
