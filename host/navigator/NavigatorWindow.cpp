@@ -22,7 +22,7 @@ constexpr int NewLine = 64;
 constexpr int MessageLines = 4;
 constexpr int MostMessages = 500;
 constexpr int TimeWidth = 9;
-constexpr int MessageWidth = 110;
+constexpr int MessageWidth = 70; // and all room that is left
 constexpr int SearchWidth = 30;
 constexpr LayoutSize UsualSize = {1040, 780};
 

@@ -134,7 +134,8 @@ void MotifCanvasPeer::Repaint() {
     cairo_surface_destroy(surface);
 }
 
-// What shows of the outer widget around the canvas and the bars: a line, or the broad ring of the focus.
+// What shows of the outer widget around the canvas and the bars: a line, or the broad ring of the focus, and the
+// corner between two bars.
 void MotifCanvasPeer::PaintFrame() {
     const Widget outer = GetWidget();
     if (!outer || !XtIsRealized(outer))
@@ -148,6 +149,7 @@ void MotifCanvasPeer::PaintFrame() {
     fill(0, _hasKeyboard ? Theme::Accent : Theme::Background);
     if (!_hasKeyboard)
         fill(Border - 1, Theme::BottomShadow);
+    fill(Border, Theme::Background);
     cairo_destroy(context);
     cairo_surface_destroy(surface);
 }

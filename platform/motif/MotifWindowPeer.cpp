@@ -72,14 +72,22 @@ void MotifWindowPeer::PlaceChild(const ZOLDialog& child, const DialogLayout& lay
 // The keyboard begins in what a window with a menu bar is there for: what takes most of its room. Elsewhere it begins
 // where the native side puts it: in the first of all.
 void MotifWindowPeer::EnterMainPart() const {
-    if (!FindBar())
-        return;
-    for (const ZOLDialog* child : _window.GetChildren())
-        if (const MotifPeer* peer = GetView().FindPeer(*child);
-            peer && peer->GetFocusWidget() && GrowsHorizontally(*child) && GrowsVertically(*child)) {
-            XmProcessTraversal(peer->GetFocusWidget(), XmTRAVERSE_CURRENT);
-            return;
-        }
+    if (const MotifPeer* main = FindBar() ? MainPartIn(_window) : nullptr)
+        XmProcessTraversal(main->GetFocusWidget(), XmTRAVERSE_CURRENT);
+}
+
+// What grows both ways and takes the keyboard, itself or deep inside a holder that grows.
+const MotifPeer* MotifWindowPeer::MainPartIn(const ZOLDialog& holder) const {
+    for (const ZOLDialog* child : holder.GetChildren()) {
+        const MotifPeer* peer = GetView().FindPeer(*child);
+        if (!peer || !GrowsHorizontally(*child) || !GrowsVertically(*child))
+            continue;
+        if (child->HoldsChildren())
+            peer = MainPartIn(*child);
+        if (peer && peer->GetFocusWidget())
+            return peer;
+    }
+    return nullptr;
 }
 
 // In a narrow window the bar has more rows than in the layout, and the rest less room.
@@ -87,7 +95,9 @@ LayoutSize MotifWindowPeer::LayOut(LayoutSize size) {
     const TextMeasure& measure = GetView().GetTextMeasure();
     const DialogLayout natural(_window, measure);
     const LayoutSize needed = natural.GetSize();
-    size = {size.width > 0 ? size.width : needed.width, size.height > 0 ? size.height : needed.height};
+    const LayoutSize wanted = _window.GetLayoutHints().size;
+    const LayoutSize opening = {std::max(wanted.width, needed.width), std::max(wanted.height, needed.height)};
+    size = {size.width > 0 ? size.width : opening.width, size.height > 0 ? size.height : opening.height};
     const MotifMenuBarPeer* bar = FindBar();
     const int usual = bar ? natural.Find(bar->GetDialog())->height : 0;
     const int upper = usual * (1 + (bar ? bar->FurtherRows(size.width) : 0));
@@ -109,7 +119,7 @@ LayoutSize MotifWindowPeer::LayOut(LayoutSize size) {
     if (_buttons)
         _buttons->Place(_asDialog->GetButtons(), _window,
                         {row.x, size.height - footer, size.width - 2 * row.x, row.height});
-    return WithBar(needed);
+    return WithBar(opening);
 }
 
 // What is too high for the screen gets a scroll bar, and the window room for it.

@@ -36,6 +36,7 @@ private:
     void KeyboardMoved(Widget shell, XEvent* event);
     MotifMenuBarPeer* FindBar() const;
     void EnterMainPart() const;
+    const MotifPeer* MainPartIn(const ZOLDialog& holder) const;
     LayoutSize WithBar(LayoutSize needed) const;
 
     ZOLDlgWindow& _window;

@@ -195,7 +195,7 @@ LayoutSize DialogLayout::Natural(const ZOLDialog& dialog) {
 }
 
 // What scrolls asks for no more than a good part of a screen, however much it holds; as root it is laid out with
-// all that it holds.
+// all that it holds. The wanted size of a window says how it opens, not how much room its content needs.
 LayoutSize DialogLayout::Bounded(const ZOLDialog& dialog, LayoutSize size) const {
     if (dynamic_cast<const ZOLDlgContainer*>(&dialog)) {
         if (&dialog == _root)
@@ -203,6 +203,8 @@ LayoutSize DialogLayout::Bounded(const ZOLDialog& dialog, LayoutSize size) const
         size.width = std::min(size.width, 80 * _measure.GetCharacterWidth());
         size.height = std::min(size.height, 20 * _measure.GetRowHeight());
     }
+    if (dialog.IsWindow())
+        return size;
     const LayoutSize wanted = dialog.GetLayoutHints().size;
     return {wanted.width > 0 ? wanted.width : size.width, wanted.height > 0 ? wanted.height : size.height};
 }

@@ -82,6 +82,7 @@ void ZOLDlgCategoryGraph::ApplyCategoriesCB(ZOLCommand* sender, ZOLNotification*
     }
     const ZOLListValZOLIQrdConfigItem_var dictionaries = _viewer->GetDictionaries();
     _viewer->BuildGraph(checked, GetOptions(0), dictionaries);
+    TellFather();
 }
 
 void ZOLDlgCategoryGraph::RulesOptionsCB(ZOLCommand*, ZOLNotification*, void*) {

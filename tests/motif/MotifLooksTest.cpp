@@ -85,6 +85,20 @@ TEST_F(MotifLooksTest, InAWindowThatIsTooSmallTheButtonsStayAndTheFocusIsScrolle
     EXPECT_TRUE(IsInside(BoxOf(*checks.back()), BoxOf(*panel)));
 }
 
+TEST_F(MotifLooksTest, TheWantedSizeOfAWindowNeitherHidesWhatItHoldsNorKeepsTheWindowFromShrinking) {
+    ListeningPanel* panel = OpenPanel();
+    panel->SetRectDimensions(500, 120);
+    std::vector<ZOLDlgCheckButton*> checks;
+    for (int i = 0; i < 8; ++i)
+        checks.push_back(new ZOLDlgCheckButton(panel, ("Check" + std::to_string(i)).c_str()));
+    _user->Settle();
+    EXPECT_TRUE(IsInside(BoxOf(*checks.back()), BoxOf(*panel))) << "it opens higher than wanted";
+    EXPECT_EQ(BoxOf(*panel).right - BoxOf(*panel).left, 500);
+    const int height = BoxOf(*panel).bottom - BoxOf(*panel).top;
+    Resize(*panel, 300, height);
+    EXPECT_TRUE(IsInside(BoxOf(*checks.back()), BoxOf(*panel))) << "without bars, as all fits";
+}
+
 TEST_F(MotifLooksTest, AContainerScrollsOverHundredsOfChecks) {
     ListeningPanel* panel = OpenPanel();
     auto* container = new ZOLDlgContainer(panel, "Container");
