@@ -16,32 +16,49 @@ static char** textsOf(int32_t count, const char* text) {
     return texts;
 }
 
+static void freeTexts(char** texts, int32_t count) {
+    for (int32_t i = 0; i < count; ++i)
+        free(texts[i]);
+    free(texts);
+}
+
+/* What it gives up itself it frees, so that only the reader of the answer can leak. */
 static int32_t optionListToDisplay(const TrellisIdentity* identity, const ObjID* product,
                                    const TrellisOptionList* given, TrellisOptionList* shown) {
     const char* fault = identity->person;
+    const int isBelow = !strcmp(fault, "a count below 0");
+    const int32_t count = isBelow ? 0 : 2;
     (void)product;
-    shown->count = 2;
+    shown->count = isBelow ? -2 : count;
     if (!strcmp(fault, "no arrays"))
         return 0;
-    shown->names = textsOf(2, "name");
-    shown->categories = textsOf(2, "category");
+    shown->names = textsOf(count, "name");
+    shown->categories = textsOf(count, "category");
     if (!strcmp(fault, "a missing array"))
         return 0;
-    shown->descriptions = textsOf(2, "description");
-    if (!strcmp(fault, "a count below 0"))
-        shown->count = -2;
+    shown->descriptions = textsOf(count, "description");
     if (!strcmp(fault, "a missing text")) {
         free(shown->categories[1]);
         shown->categories[1] = NULL;
     }
-    if (!strcmp(fault, "an array twice"))
+    if (!strcmp(fault, "an array twice")) {
+        freeTexts(shown->descriptions, count);
         shown->descriptions = shown->categories;
-    if (!strcmp(fault, "a text twice"))
+    }
+    if (!strcmp(fault, "a text twice")) {
+        free(shown->names[1]);
         shown->names[1] = shown->names[0];
-    if (!strcmp(fault, "what was given"))
+    }
+    if (!strcmp(fault, "what was given")) {
+        freeTexts(shown->names, count);
+        freeTexts(shown->categories, count);
+        freeTexts(shown->descriptions, count);
         *shown = *given;
-    if (!strcmp(fault, "a text that was given"))
+    }
+    if (!strcmp(fault, "a text that was given")) {
+        free(shown->names[0]);
         shown->names[0] = given->names[0];
+    }
     if (!strcmp(fault, "nothing, though it may not be asked"))
         return 7;
     return 0;
