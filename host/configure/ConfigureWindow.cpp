@@ -154,8 +154,10 @@ void ConfigureWindow::ShowState() {
     const std::size_t leftOut = _reasons->RulesLeftOut().size();
     _leftOutBar->SetVisibility(leftOut > 0 ? ZOLShown : ZOLHidden);
     _leftOut->SetTitle(Text("LeftOut.Msg", {Number(static_cast<int>(leftOut))}));
-    _summary->SetTitle(Text("Summary.Msg", {ProductName(), Number(_panel->CountOpenCategories()),
-                                            Number(_reasons->CountChosen())}));
+    const ZOLUnicodeString product = ProductName();
+    SetTitle(Text("Configure.Title", {product}));
+    _summary->SetTitle(Text(
+        "Summary.Msg", {product, Number(_panel->CountOpenCategories()), Number(_reasons->CountChosen())}));
     ShowWhy();
 }
 

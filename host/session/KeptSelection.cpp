@@ -69,11 +69,12 @@ bool KeptSelection::Write(const std::string& file, ZOLGYRError& error) const {
 
 std::optional<KeptSelection> KeptSelection::Read(const std::string& file, ZOLGYRError& error) {
     std::ifstream input(file, std::ios::binary);
-    const std::string text{std::istreambuf_iterator<char>(input), {}};
-    if (!input) {
+    // A folder opens, but its first read fails.
+    if (!input || (input.peek(), input.bad())) {
         error.Set(NotRead, 0, {file});
         return std::nullopt;
     }
+    const std::string text{std::istreambuf_iterator<char>(input), {}};
     try {
         const Json json = Json::parse(text);
         if (json.at(VersionKey) != Version)

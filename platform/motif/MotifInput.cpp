@@ -139,6 +139,8 @@ bool MotifInput::TakesKey(XKeyEvent& event, ZOLDialog& window) {
         return PressKey(window, ZOLUserKey::Escape), true;
     if (key == XK_F1 && isPlain)
         return PressKey(focus, ZOLUserKey::F1), true;
+    if (key == XK_space && isPlain) // a button may open a menu
+        NoteKey(focus, event.keycode);
     if (key == XK_Menu || (key == XK_F10 && (event.state & ShiftMask)))
         return OpensMenu(focus, event.keycode);
     if ((key == XK_Return || key == XK_KP_Enter) && isPlain && !TakesReturn(focus))
@@ -154,8 +156,13 @@ bool MotifInput::WalksByKey(const XKeyEvent& event, KeySym key, ZOLDialog& windo
     if ((isBack || key == XK_Down || key == XK_Right) && modifiers == 0)
         return _focus.StepInGroup(focus, isBack ? -1 : 1);
     const bool isLetter = key > XK_space && key <= XK_asciitilde;
-    return isLetter && (modifiers & ~static_cast<unsigned>(ShiftMask)) == Mod1Mask &&
-           MotifMnemonics::Press(window, static_cast<char>(key), _focus);
+    if (!isLetter || (modifiers & ~static_cast<unsigned>(ShiftMask)) != Mod1Mask)
+        return false;
+    NoteKey(focus, 0);
+    if (!MotifMnemonics::Press(window, static_cast<char>(key), _focus))
+        return false; // perhaps a menu of the bar, which needs to see the key go up
+    _menuKey = event.keycode;
+    return true;
 }
 
 // Crossing a border inside a window is a motion, too: not everybody in it asks for those.
@@ -202,6 +209,13 @@ void MotifInput::WatchPointer(const XEvent& event) {
 }
 
 bool MotifInput::OpensMenu(ZOLDialog& focus, unsigned keycode) {
+    const bool isThere = NoteKey(focus, keycode);
+    if (isThere)
+        OpenMenuByKey(focus);
+    return isThere;
+}
+
+bool MotifInput::NoteKey(const ZOLDialog& focus, unsigned keycode) {
     const MotifPeer* peer = _view.FindPeer(focus);
     if (!peer || !peer->GetWidget() || !XtIsRealized(peer->GetWidget()))
         return false;
@@ -212,7 +226,6 @@ bool MotifInput::OpensMenu(ZOLDialog& focus, unsigned keycode) {
                       static_cast<Position>(place.y + place.height), &left, &top);
     _view.NoteGesture(left, top);
     _menuKey = keycode;
-    OpenMenuByKey(focus);
     return true;
 }
 

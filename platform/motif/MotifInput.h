@@ -34,6 +34,8 @@ private:
     bool TakesKey(XKeyEvent& event, ZOLDialog& window);
     bool WalksByKey(const XKeyEvent& event, KeySym key, ZOLDialog& window, ZOLDialog& focus);
     bool OpensMenu(ZOLDialog& focus, unsigned keycode);
+    // A menu that this key opens comes up at the focus. False where that is not on the screen.
+    bool NoteKey(const ZOLDialog& focus, unsigned keycode);
     bool TurnsWheel(const XButtonEvent& event) const;
     void WatchToolTip(const XEvent& event, const ZOLDialog* window);
     void WatchPointer(const XEvent& event);

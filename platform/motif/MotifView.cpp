@@ -119,6 +119,13 @@ bool MotifView::TakeMark(const ZOLDialog& dialog) {
     return _mirroring.erase(dialog.GetNumber()) > 0 || _mirrorsAll;
 }
 
+// Under a question its widget ends only with that, so a window leaves the screen first.
+void MotifView::DropGivenUp(ZOLDialog& dialog) {
+    if (MotifShellPeer* shell = FindShell(dialog))
+        shell->MirrorWindow();
+    MotifPeerTable::Instance().Drop(dialog.GetNumber());
+}
+
 // Mirroring changes no model, but may take over where a caret went; that settles with the second round.
 void MotifView::MirrorMarked() {
     if (_isMirroring)
@@ -130,7 +137,7 @@ void MotifView::MirrorMarked() {
         Marks windows;
         for (const auto& [number, dialog] : Marks(_mirroring)) {
             if (dialog->IsBeingDestroyed())
-                MotifPeerTable::Instance().Drop(number);
+                DropGivenUp(*dialog);
             if (const ZOLDialog* window = dialog->GetHoldingWindow())
                 windows.emplace(window->GetNumber(), const_cast<ZOLDialog*>(window));
         }

@@ -91,6 +91,7 @@ private:
 
     void ServeEvent();
     void MirrorMarked();
+    void DropGivenUp(ZOLDialog& dialog);
     void MirrorWindow(ZOLDialog& window);
     MotifShellPeer* FindShell(const ZOLDialog& window) const;
 

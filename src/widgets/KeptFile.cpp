@@ -42,7 +42,8 @@ std::string KeptFile::PathOf(const ZOLDMInstance& product, const std::string& en
 
 std::string KeptFile::Content(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+    file.peek(); // a folder opens, but its first read fails
+    return file ? std::string(std::istreambuf_iterator<char>(file), {}) : std::string();
 }
 
 bool KeptFile::Replace(const std::string& path, const std::string& content) {

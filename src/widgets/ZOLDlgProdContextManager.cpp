@@ -6,6 +6,7 @@
 #include "service/ZOLQRDCfgManager.h"
 #include "toolkit/ZOLDlgContextualMenu.h"
 #include "toolkit/ZOLDlgLabel.h"
+#include "toolkit/ZOLDlgPushButton.h"
 #include "toolkit/ZOLDlgPushItem.h"
 #include "toolkit/ZOLDlgSeparatorItem.h"
 #include "values/ZOLGYRError.h"
@@ -104,9 +105,13 @@ void ZOLDlgProdContextManager::Build() {
     new ZOLDlgLabel(this, "CurrentProductLabel");
     auto* frame = new ZOLDlgFrame(this, "CurrentProductFrame", NoBorder);
     frame->SetHorizontalAttachment(1);
+    frame->SetDefaultOrientation(1);
     _name = new ZOLDlgLabel(frame, "CurrentProductName");
     _name->SetHorizontalAttachment(1);
     _name->SetRectDimensions(NameWidth, 0);
+    auto* change = new ZOLDlgPushButton(frame, "ChangeProduct"); // nothing else here takes the keyboard
+    AddAnalyseNotificationCB(change, change->GetPushBActivateNotification(),
+                             ZOL_CALLBACK(&ZOLDlgProdContextManager::ChangeProductCB));
     _menu = new ZOLDlgContextualMenu(this, "ContextualMenu");
     AddAnalyseNotificationCB(_menu, _menu->GetVisibilityNotification(),
                              ZOL_CALLBACK(&ZOLDlgProdContextManager::MenuDisplayCB));
@@ -167,6 +172,10 @@ void ZOLDlgProdContextManager::SelectProduct(const int index) {
     if (_index > 0)
         _LastUsedProductIndex = _UsedProductList.Locate(_history[_index]);
     _name->SetTitle(_index > 0 ? NameOf(_history[_index]) : Text("NoProduct.Title"));
+}
+
+void ZOLDlgProdContextManager::ChangeProductCB(ZOLCommand*, ZOLNotification*, void*) {
+    _menu->UserOpen();
 }
 
 void ZOLDlgProdContextManager::SelectProductCB(ZOLCommand*, ZOLNotification*, void* position) {

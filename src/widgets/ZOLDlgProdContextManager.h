@@ -59,6 +59,7 @@ private:
                             ZOLNotificationMethod method = nullptr, void* data = nullptr);
     ZOLUnicodeString Text(const char* key) const;
 
+    void ChangeProductCB(ZOLCommand*, ZOLNotification*, void*);
     void MenuDisplayCB(ZOLCommand*, ZOLNotification*, void*);
     void PasteNewProductCB(ZOLCommand*, ZOLNotification*, void*);
     void ResetProductsCB(ZOLCommand*, ZOLNotification*, void*);

@@ -33,8 +33,11 @@ RC_GTEST_PROP(KeptSelectionTest, WhatIsWrittenIsRead, ()) {
 TEST(KeptSelectionFile, WhatIsNoSelectionIsRefusedWithItsReason) {
     const TemporaryFolder folder;
     ZOLGYRError error;
-    EXPECT_FALSE(KeptSelection::Read(folder.Path("none.json"), error));
-    EXPECT_EQ(error.GetCode(), 60634);
+    for (const std::string& unreadable : {folder.Path("none.json"), folder.Path()}) {
+        error.Clear();
+        EXPECT_FALSE(KeptSelection::Read(unreadable, error));
+        EXPECT_EQ(error.GetCode(), 60634) << unreadable;
+    }
     for (const char* content :
          {"", "[]", "7", "{}", R"({"trellis selection": 2, "choices": []})", R"({"trellis selection": 1})",
           R"({"trellis selection": 1, "choices": [{"category": 3}]})",

@@ -5,7 +5,11 @@
 #include "toolkit/GraphDrawing.h"
 #include "toolkit/TextMeasure.h"
 #include "toolkit/ToolkitView.h"
+#include "toolkit/ZOLDlgMenuPane.h"
 #include "toolkit/ZOLDlgSelectorList.h"
+
+#include <X11/Intrinsic.h>
+#include <X11/StringDefs.h>
 
 // A user chooses options in real windows, with the mouse alone and with the keyboard alone, from the navigator into a
 // conflict and out of it. What the windows show is compared with what was expected.
@@ -26,24 +30,15 @@ class MotifConfigureJourneyTest : private Screened,
                                   public NavigatorFixture,
                                   public testing::WithParamInterface<By> {
 protected:
+    using Options = std::vector<std::pair<const char*, std::vector<const char*>>>;
+
     MotifConfigureJourneyTest() {
         setenv("XDG_DATA_HOME", _folder.Path("data").c_str(), 1);
+        const auto dictionary = MakeDictionary(
+            Node({"BIKE Bike"})->Part(),
+            {{"COLOUR", {"RED", "BLUE"}}, {"EXTRA", {"BELL", "RACK"}}, {"LAMP", {"LED", "HALOGEN"}}});
         ZOLGYRError error;
         ZOLQRDCfgManager& manager = *ZOLQRDCfgManager::CurrentCfgManager(error);
-        const ZOLDMInstance bike = Node({"BIKE Bike"})->Part();
-        manager.SetConfigurable(bike, error);
-        manager.AddDictionary(bike, error);
-        ZOLQRDConfigurableObject object;
-        manager.GetConfigurableObject(bike, object, error);
-        const ZOLIQrdConfigItem_var dictionary = object.GetDictionary();
-        for (const auto& [name, options] : {std::pair("COLOUR", std::vector{"RED", "BLUE"}),
-                                            std::pair("EXTRA", std::vector{"BELL", "RACK"}),
-                                            std::pair("LAMP", std::vector{"LED", "HALOGEN"})}) {
-            const auto category = manager.AddCategoryToDictionary(dictionary, name, name,
-                                                                  name != std::string("EXTRA"), 0, error);
-            for (const char* option : options)
-                manager.AddOptionToDictionary(dictionary, category, option, option, error);
-        }
         manager.AddConfigRuleToDictionary(dictionary, "", R"(if "RED" then "LED")", ZOLDirectiveRuleType, "",
                                           error);
         manager.Save(error);
@@ -54,19 +49,46 @@ protected:
             Driver::CloseWindow(_configure);
     }
 
+    // Exclusive categories, except for EXTRA.
+    static ZOLIQrdConfigItem_var MakeDictionary(const ZOLDMInstance& part, const Options& content) {
+        ZOLGYRError error;
+        ZOLQRDCfgManager& manager = *ZOLQRDCfgManager::CurrentCfgManager(error);
+        manager.SetConfigurable(part, error);
+        manager.AddDictionary(part, error);
+        ZOLQRDConfigurableObject object;
+        manager.GetConfigurableObject(part, object, error);
+        for (const auto& [name, options] : content) {
+            const auto category = manager.AddCategoryToDictionary(object.GetDictionary(), name, name,
+                                                                  name != std::string("EXTRA"), 0, error);
+            for (const char* option : options)
+                manager.AddOptionToDictionary(object.GetDictionary(), category, option, option, error);
+        }
+        EXPECT_EQ(error.GetCode(), 0);
+        return object.GetDictionary();
+    }
+
     bool IsByMouse() const { return GetParam() == By::Mouse; }
 
-    // Chooses BIKE, the first of the structure, and opens the window from the menu bar.
+    // Chooses BIKE, the first of the structure, which opens it.
+    void ChooseBike() {
+        if (IsByMouse())
+            return user.Click(gestures.PlaceOf(*_graph, _graph->GetGraph()->GetDrawing().Nodes()[0].node));
+        gestures.Focus(user.NativeOf(*_graph));
+        user.Press("space");
+    }
+    // And FRAME, which stands below it.
+    void ChooseFrameToo() {
+        if (IsByMouse())
+            return user.Click(gestures.PlaceOf(*_graph, _graph->GetGraph()->GetDrawing().Nodes()[1].node), 1,
+                              {"Control_L"});
+        user.Press("Down");
+        user.Press("space", {"Control_L"});
+    }
     void OpenConfigure() {
-        ZOLGraphNode* bike = _graph->GetGraph()->GetDrawing().Nodes().front().node;
-        if (IsByMouse()) {
-            user.Click(gestures.PlaceOf(*_graph, bike));
+        if (IsByMouse())
             gestures.ClickItems(user.NativeOf(*_bar), {"Dictionary", "ConfigureItem"});
-        } else {
-            gestures.Focus(user.NativeOf(*_graph));
-            user.Press("space");
+        else
             gestures.WalkInBar(*_bar, {"Dictionary", "ConfigureItem"});
-        }
         _configure = Driver::Top();
         ASSERT_NE(_configure, _window) << "the window did not open";
         _options = static_cast<ZOLGraphViewer*>(Driver::Find(_configure, "CategoryGraph/CategoryGraph"));
@@ -151,6 +173,23 @@ protected:
             user.Press("Down");
     }
 
+    // In the menu that the button opens, the products stand below all else.
+    void ChangeToSecondProduct() {
+        Use("ChangeProduct");
+        ASSERT_TRUE(ZOLDlgMenuPane::GetOpenMenu());
+        if (!IsByMouse()) {
+            for (int item = 0; item < 2; ++item)
+                user.Press("Down");
+            return user.Press("Return");
+        }
+        Widget first = XtNameToWidget(gestures.RootOf(*_configure), "*ProductItem");
+        Dimension height = 0;
+        XtVaGetValues(first, XtNheight, &height, nullptr);
+        const ScreenUser::Place place = user.MiddleOf(first);
+        user.PauseBetweenClicks();
+        user.Click({place.x, place.y + height});
+    }
+
     ZOLDialog* _configure = nullptr;
     ZOLGraphViewer* _options = nullptr;
     std::string _asked; // what the question for a repair said
@@ -161,6 +200,7 @@ protected:
 };
 
 TEST_P(MotifConfigureJourneyTest, OptionsAreChosenIntoAConflictAndARepairLeadsOut) {
+    ChooseBike();
     OpenConfigure();
     ExpectTold("categories still open: 3");
     Choose(red);
@@ -189,6 +229,7 @@ TEST_P(MotifConfigureJourneyTest, OptionsAreChosenIntoAConflictAndARepairLeadsOu
 }
 
 TEST_P(MotifConfigureJourneyTest, LegendAndRulesOptionsOpenAndGo) {
+    ChooseBike();
     OpenConfigure();
     Choose(red);
     Use("ColorLegend");
@@ -210,6 +251,20 @@ TEST_P(MotifConfigureJourneyTest, LegendAndRulesOptionsOpenAndGo) {
     ExpectTold("LED (LAMP) is open");
     Use("Undo");
     ExpectTold("chosen by you: 0");
+}
+
+TEST_P(MotifConfigureJourneyTest, TheProductIsChangedBelowTheGraph) {
+    ChooseBike();
+    const auto* frame =
+        static_cast<trellis::NavigatorNode*>(_graph->GetGraph()->GetDrawing().Nodes()[1].node);
+    MakeDictionary(frame->Part(), {{"COLOUR", {"RED", "GREEN"}}});
+    ChooseFrameToo();
+    OpenConfigure();
+    Choose(red);
+    ChangeToSecondProduct();
+    ExpectTold("FRAME Frame   |   categories still open: 0   |   chosen by you: 1");
+    GoTo({"COLOUR", "GREEN"});
+    ExpectTold("GREEN (COLOUR) is rejected by the rules");
 }
 
 INSTANTIATE_TEST_SUITE_P(Everybody, MotifConfigureJourneyTest, testing::Values(By::Mouse, By::Keys),

@@ -1,6 +1,7 @@
 #include "support/ScreenUser.h"
 #include "toolkit/ToolkitFixture.h"
 #include "toolkit/ZOLDlgCheckButton.h"
+#include "toolkit/ZOLDlgDialog.h"
 #include "toolkit/ZOLDlgEditor.h"
 #include "toolkit/ZOLDlgMultiList.h"
 #include "toolkit/ZOLDlgNotify.h"
@@ -63,6 +64,40 @@ TEST_F(MotifWindowTest, AQuestionIsAnsweredByReturnWhereverThePointerIs) {
     _user->Settle();
     _user->Type("a");
     EXPECT_EQ(editor->GetText(), "a") << "the keyboard did not come back";
+    ZOLUserDriver::TakeMessages();
+}
+
+TEST_F(MotifWindowTest, ADialogThatIsGivenUpDoesNotStandBehindTheNextQuestion) {
+    ListeningPanel* panel = OpenAt(20, 20, "Panel");
+    auto* ask = new ZOLDlgPushButton(panel, "Ask");
+    panel->reaction = [panel](ZOLCommand*, ZOLNotification*, void*) {
+        auto* dialog = new ZOLDlgDialog(panel, "File", modal | 0x400);
+        dialog->DisplayBlocked();
+        dialog->RequestDelayedDestruction();
+        ZOLDlgNotify(panel, "Confirm", modal | 0x200).DisplayBlocked("Replace it?", "Replace");
+    };
+    panel->Listen(ask, ask->GetPushBActivateNotification());
+    Window file = 0;
+    int map = -1;
+    const auto isUp = [](const char* name) {
+        const ZOLDialog* top = ZOLUserDriver::Top();
+        return top && top->GetName() == name;
+    };
+    _user->WhenItIs([&] { return isUp("File"); },
+                    [&] {
+                        file = WindowOf(*ZOLUserDriver::Top());
+                        _user->Press("Return");
+                    });
+    _user->WhenItIs([&] { return isUp("Confirm"); },
+                    [&] {
+                        XWindowAttributes attributes;
+                        if (XGetWindowAttributes(DisplayOf(*panel), file, &attributes))
+                            map = attributes.map_state;
+                        _user->Press("Return");
+                    });
+    _user->Click(*ask);
+    EXPECT_NE(file, 0U);
+    EXPECT_EQ(map, IsUnmapped);
     ZOLUserDriver::TakeMessages();
 }
 

@@ -4,6 +4,7 @@
 #include "panels/ZOLDMDlgResultPanel.h"
 #include "service/ServiceFixture.h"
 #include "toolkit/ToolkitFixture.h"
+#include "toolkit/ZOLDlgMenuPane.h"
 #include "widgets/KeptFile.h"
 
 #include <cstdlib>
@@ -127,6 +128,15 @@ TEST_F(ProdContextManager, FramesOfferWhatEarlierOnesUsedAndBeginWithTheProductU
     EXPECT_EQ(Shown(), "(no product)");
     EXPECT_EQ(LastUsed(), "none") << "the frame with no product offers none";
     EXPECT_EQ(Menu(), "(Paste a product); (Products used before); BIKE; FRAME; WHEEL; ");
+}
+
+TEST_F(ProdContextManager, TheMenuOpensFromAButtonToo) {
+    Open({bike});
+    Driver::Press(Driver::Find(frame, "ChangeProduct"));
+    ASSERT_EQ(ZOLDlgMenuPane::GetOpenMenu(), Driver::Find(frame, "ContextualMenu"));
+    EXPECT_NO_THROW(Driver::Find(frame, "ContextualMenu/ResetItem"));
+    Driver::Key(frame, ZOLUserKey::Escape);
+    EXPECT_EQ(ZOLDlgMenuPane::GetOpenMenu(), nullptr);
 }
 
 TEST_F(ProdContextManager, TheOwnerGivesOtherProductsAndIsToldIfItWants) {
