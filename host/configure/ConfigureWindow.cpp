@@ -162,24 +162,35 @@ void ConfigureWindow::ShowState() {
 }
 
 void ConfigureWindow::ShowWhy() {
-    if (!_looked) {
-        _why->SetText(Text("PointAtOption.Msg"));
-        return;
-    }
-    static constexpr const char* keys[] = {
-        "Chosen.Msg",  "Rejected.Msg", "RejectedWithChoice.Msg", "ChosenByRules.Msg", "RejectedByRules.Msg",
-        "Ignored.Msg", "Open.Msg"};
-    const auto state = static_cast<std::size_t>(_reasons->StateOf(*_looked));
+    _why->SetText(_looked ? TextOfLooked() : Text("PointAtOption.Msg"));
+    _why->SetSelection(0, -1); // the beginning in sight
+}
+
+// What the rules decided may stand without a reason: there is none while they have no answer, or are off.
+ZOLUnicodeString ConfigureWindow::TextOfLooked() const {
+    struct Key {
+        const char* usual;
+        const char* withoutReason = nullptr; // where the state wants one
+    };
+    static constexpr Key keys[] = {{"Chosen.Msg"},
+                                   {"Rejected.Msg"},
+                                   {"RejectedWithChoice.Msg"},
+                                   {"ChosenByRules.Msg", "ChosenByRules.Before"},
+                                   {"RejectedByRules.Msg", "RejectedByRules.Before"},
+                                   {"Ignored.Msg"},
+                                   {"Open.Msg"}};
+    const Key& key = keys[static_cast<std::size_t>(_reasons->StateOf(*_looked))];
+    const auto reasons = _reasons->Why(*_looked);
     ZOLUnicodeString text =
-        Text(keys[state], {_looked->GetOption(), _looked->GetCategory(), _reasons->ChosenInstead(*_looked)});
-    if (const auto reasons = _reasons->Why(*_looked); !reasons.empty())
+        Text(reasons.empty() && key.withoutReason ? key.withoutReason : key.usual,
+             {_looked->GetOption(), _looked->GetCategory(), _reasons->ChosenInstead(*_looked)});
+    if (!reasons.empty())
         text += "\n" + Joined(reasons);
     if (const auto* node = static_cast<ZOLGraphNode*>(_lookedNode.Get()))
         text += node->getAlert() == NodeAlert::Conflict       ? "\n" + Text("IsInConflict.Msg")
                 : node->getAlert() == NodeAlert::Irresolution ? "\n" + Text("IsWanted.Msg")
                                                               : ZOLUnicodeString();
-    _why->SetText(text);
-    _why->SetSelection(0, -1); // the beginning in sight
+    return text;
 }
 
 ZOLUnicodeString ConfigureWindow::ProductName() const {

@@ -47,6 +47,7 @@ private:
 
     void ShowState();
     void ShowWhy();
+    ZOLUnicodeString TextOfLooked() const;
     // What is shown: the name of the first dictionary's part.
     ZOLUnicodeString ProductName() const;
     void Choose(KeptSelection selection);

@@ -33,6 +33,8 @@ TEST_F(ConfigureWindowTest, TheWindowTellsWhyAnOptionIsInItsState) {
     EXPECT_TRUE(Sees("LED (LAMP) is chosen by the rules")) << "stays while the pointer travels";
     Driver::PointAt(viewer, Node("LAMP", "HALOGEN"));
     EXPECT_TRUE(Sees("HALOGEN (LAMP) is rejected by the rules"));
+    Driver::Choose(Driver::Find(window, "RulesCombo"), "Rules off");
+    EXPECT_TRUE(Sees("HALOGEN (LAMP) was rejected by the rules"));
 }
 
 TEST_F(ConfigureWindowTest, AConflictIsEndedByOneStepAndThatIsTakenBack) {
@@ -40,6 +42,8 @@ TEST_F(ConfigureWindowTest, AConflictIsEndedByOneStepAndThatIsTakenBack) {
     Show();
     EXPECT_FALSE(Sees("What can I do?"));
     Click("LAMP", "HALOGEN");
+    Driver::PointAt(viewer, Node("COLOUR", "RED"));
+    EXPECT_TRUE(Sees("RED (COLOUR) is rejected by the rules, because of"));
     Click("COLOUR", "RED");
     EXPECT_TRUE(Sees("cannot stand together"));
     const std::string told = AskRepairs([](ZOLDialog* dialog) {
@@ -68,6 +72,7 @@ TEST_F(ConfigureWindowTest, WhatARuleWantsAndWhatClashesIsSaidOfTheOption) {
     Click("EXTRA", "BELL");
     EXPECT_FALSE(Sees("A rule that holds wants it"));
     Click("LAMP", "HALOGEN");
+    Driver::PointAt(viewer, Node("LAMP", "LED"));
     Click("COLOUR", "BLUE");
     Driver::PointAt(viewer, Node("COLOUR", "BLUE"));
     EXPECT_TRUE(Sees("cannot stand with your other choices"));
