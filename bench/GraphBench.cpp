@@ -1,6 +1,8 @@
 // Measures the selection graph on models of real products: opening it, clicks, undo and redo, without a view, and what
 // a screen paints after a click. What the rules take of it is measured beside it, by the same questions to the same
 // model in a second dictionary. All times are processor times.
+#include "Timing.h"
+
 #include "graph/ZOLCategoryGraphViewer.h"
 #include "model/DatabaseSession.h"
 #include "model/PartQuery.h"
@@ -24,39 +26,15 @@
 #include <random>
 
 using namespace trellis;
+using namespace trellis::bench;
 
 namespace {
-
-using Times = std::vector<double>; // in milliseconds
 
 constexpr int ClickCount = 200;
 constexpr unsigned DecidedOneIn = 8;  // clicks on what is decided already
 constexpr unsigned RejectedOneIn = 3; // gestures of the other button
 constexpr unsigned Seed = 7;
 constexpr LayoutSize Screen{1280, 900};
-
-double Now() {
-    timespec time{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    return 1e3 * static_cast<double>(time.tv_sec) + 1e-6 * static_cast<double>(time.tv_nsec);
-}
-
-template <typename Work>
-double TimeOf(Work work) {
-    const double start = Now();
-    work();
-    return Now() - start;
-}
-
-double Mean(const Times& times) {
-    return std::accumulate(times.begin(), times.end(), 0.0) /
-           static_cast<double>(std::max<std::size_t>(times.size(), 1));
-}
-
-double Part(Times times, std::size_t percent) {
-    std::sort(times.begin(), times.end());
-    return times.empty() ? 0 : times[(times.size() - 1) * percent / 100];
-}
 
 [[noreturn]] void Fail(const ZOLGYRError& error) {
     ZOLUnicodeString message;
@@ -286,10 +264,11 @@ void Print(const std::string& model, bool isAdvanced, const Measures& measures) 
         "| %s | %s | %zu | %.0f | %.1f | %.1f | %.1f | %.1f | %.1f | %.1f | %.1f | %.1f | %.1f | %.1f "
         "| %.1f | %.1f | %.0f | %d |\n",
         model.c_str(), isAdvanced ? "advanced" : "simple", measures.options, measures.opening,
-        Mean(measures.clicks), Part(measures.clicks, 95), Part(measures.clicks, 100), Mean(measures.engine),
-        Part(measures.engine, 95), Mean(measures.others), Part(measures.others, 95),
-        Part(measures.others, 100), Part(measures.undos, 95), Part(measures.redos, 95),
-        Part(measures.redraws, 95), Part(measures.terms, 95), measures.defaults, measures.conflicts);
+        Mean(measures.clicks), Percentile(measures.clicks, 95), Percentile(measures.clicks, 100),
+        Mean(measures.engine), Percentile(measures.engine, 95), Mean(measures.others),
+        Percentile(measures.others, 95), Percentile(measures.others, 100), Percentile(measures.undos, 95),
+        Percentile(measures.redos, 95), Percentile(measures.redraws, 95), Percentile(measures.terms, 95),
+        measures.defaults, measures.conflicts);
     std::fflush(stdout);
 }
 

@@ -1,6 +1,7 @@
 // Measures the rule engine on models of real products against two roads through the solver alone, in one run and on
 // the same decisions. All times are processor times.
 #include "SolverRoads.h"
+#include "Timing.h"
 
 #include "rules/engine/RealModel.h"
 #include "rules/engine/RuleEngine.h"
@@ -17,11 +18,11 @@
 #include <vector>
 
 using namespace trellis;
+using namespace trellis::bench;
 
 namespace {
 
 using Decisions = std::vector<RuleLiteral>;
-using Times = std::vector<double>; // in milliseconds
 
 constexpr std::size_t SessionCount = 30;
 constexpr std::size_t DecisionCount = 8;
@@ -32,31 +33,6 @@ constexpr int LargeModel =
 constexpr std::size_t ReasonsPerSession = 5;
 constexpr int Repeats = 20; // of what is quicker than looking at the clock
 constexpr unsigned Seed = 7;
-
-double Now() {
-    timespec time{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    return 1e3 * static_cast<double>(time.tv_sec) + 1e-6 * static_cast<double>(time.tv_nsec);
-}
-
-template <typename Work>
-double TimeOf(Work work) {
-    const double start = Now();
-    work();
-    return Now() - start;
-}
-
-double Sum(const Times& times) {
-    return std::accumulate(times.begin(), times.end(), 0.0);
-}
-double Mean(const Times& times) {
-    return Sum(times) / static_cast<double>(std::max<std::size_t>(times.size(), 1));
-}
-
-double Percentile95(Times times) {
-    std::sort(times.begin(), times.end());
-    return times.empty() ? 0 : times[(times.size() - 1) * 95 / 100];
-}
 
 double AllocatedBytes() {
     const struct mallinfo2 allocated = mallinfo2();
@@ -196,7 +172,7 @@ void Print(const std::string& name, const RuleModel& model, const Measures& meas
     std::printf(
         "| %s | %d | %.0f | %.1f | %.3f | %.3f | %.3f | %.1f | 1/%.0f | %.1f | 1/%.0f | 1/%.0f | %.1f | "
         "%.0f | %.0f |%s\n",
-        name.c_str(), model.optionCount, rules, measures.opening, step, Percentile95(measures.steps),
+        name.c_str(), model.optionCount, rules, measures.opening, step, Percentile(measures.steps, 95),
         Mean(measures.conflicts), measures.plainStep, measures.plainStep / step, measures.pooledStep,
         measures.pooledStep / step, step / Mean(measures.back), measures.reasonInSolves,
         measures.bytes / model.optionCount, measures.bytes / rules,
