@@ -4,14 +4,8 @@
 #include "service/RuleExport.h"
 #include "service/ZOLRuleHandler.h"
 #include "session/MessageOutput.h"
+#include "session/WholeFile.h"
 
-#include <unistd.h>
-
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
-#include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <memory>
 
@@ -19,36 +13,12 @@ namespace trellis {
 
 namespace {
 
-constexpr int NotWritten = 60631;
 constexpr int UnreadableRules = 60632;
 
 struct Arguments {
     std::string file; // empty or "-": the standard output
     std::string product;
 };
-
-bool WriteTo(const std::string& path, const std::string& text) {
-    errno = 0;
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    file << text;
-    file.close();
-    return file.good();
-}
-
-// What stands under the name before is there until the new text is whole.
-bool WriteFile(const std::string& path, const std::string& text, ZOLGYRError& error) {
-    std::error_code failure;
-    const bool isPlain =
-        !std::filesystem::exists(path, failure) ||
-        (std::filesystem::is_regular_file(path, failure) && !std::filesystem::is_symlink(path, failure));
-    const std::string written = isPlain ? path + ".new-" + std::to_string(getpid()) : path;
-    if (WriteTo(written, text) && (!isPlain || std::rename(written.c_str(), path.c_str()) == 0))
-        return true;
-    error.Set(NotWritten, {path, std::strerror(errno)});
-    if (isPlain)
-        std::filesystem::remove(written, failure);
-    return false;
-}
 
 // Rules that bind nothing are written as they are, and an import would refuse them: whoever exports should know.
 void TellUnreadable(const ZOLIQrdConfigItem_var& dictionary) {
@@ -73,7 +43,7 @@ ExitCode ExportRules(HostSession& session, const Arguments& arguments) {
     if (arguments.file.empty() || arguments.file == "-")
         std::cout << text << std::flush;
     else
-        WriteFile(arguments.file, text, error);
+        WholeFile::Write(arguments.file, text, error);
     MessageOutput::Print(error);
     return error.GetCode() == 0 ? ExitCode::Fine : ExitCode::EnvironmentFailed;
 }

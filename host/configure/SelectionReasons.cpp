@@ -3,6 +3,7 @@
 #include "session/KeptSelection.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 namespace trellis {
 
@@ -28,27 +29,37 @@ std::vector<ZOLUnicodeString> Lines(const std::vector<RuleReasonItem>& reasons) 
     return lines;
 }
 
-bool IsSameOption(const ZOLParameter& one, const ZOLParameter& other) {
-    return one.GetOption() == other.GetOption() && one.GetCategory() == other.GetCategory();
-}
-
 bool IsAmong(const ZOLParameter& parameter, const SelectionReasons::Parameters& list) {
     return std::ranges::find(list, parameter) != list.end();
 }
 
-bool IsChosen(const ZOLParameter& option, const SelectionReasons::Parameters& choices) {
-    return std::ranges::any_of(
-        choices, [&](const ZOLParameter& choice) { return !choice.IsNot() && IsSameOption(choice, option); });
-}
+// What is chosen in each category, by index: a large selection has thousands of rejections.
+class ChosenOptions {
+public:
+    explicit ChosenOptions(const SelectionReasons::Parameters& choices) {
+        for (const ZOLParameter& choice : choices)
+            if (!choice.IsNot())
+                _options[choice.GetCategory()].push_back(choice.GetOption());
+    }
 
-// Whether a rejection goes with the choice of another option in its exclusive category.
-bool IsBroughtByChoice(const ZOLParameter& rejection, const SelectionReasons::Parameters& choices) {
-    return rejection.IsNot() && rejection.GetCategoryExclusivity() &&
-           std::ranges::any_of(choices, [&](const ZOLParameter& other) {
-               return !other.IsNot() && other.GetCategory() == rejection.GetCategory() &&
-                      other.GetOption() != rejection.GetOption();
-           });
-}
+    bool Has(const ZOLParameter& option) const {
+        const auto found = _options.find(option.GetCategory());
+        return found != _options.end() &&
+               std::ranges::find(found->second, option.GetOption()) != found->second.end();
+    }
+    // Whether a rejection goes with the choice of another option in its exclusive category.
+    bool Bring(const ZOLParameter& rejection) const {
+        if (!rejection.IsNot() || !rejection.GetCategoryExclusivity())
+            return false;
+        const auto found = _options.find(rejection.GetCategory());
+        return found != _options.end() && std::ranges::any_of(found->second, [&](const auto& option) {
+                   return option != rejection.GetOption();
+               });
+    }
+
+private:
+    std::unordered_map<ZOLUnicodeString, std::vector<ZOLUnicodeString>> _options;
+};
 
 } // namespace
 
@@ -100,18 +111,19 @@ SelectionReasons::Parameters SelectionReasons::ChoicesWithout(const Parameters& 
     const Parameters choices = Choices();
     Parameters remaining = choices;
     std::erase_if(remaining, [&](const ZOLParameter& choice) { return IsAmong(choice, givenUp); });
+    const ChosenOptions before(choices);
+    const ChosenOptions now(remaining);
     Parameters kept = remaining;
     std::erase_if(kept, [&](const ZOLParameter& choice) {
-        return IsBroughtByChoice(choice, choices) &&
-               (!IsBroughtByChoice(choice, remaining) || IsChosen(choice, remaining));
+        return before.Bring(choice) && (!now.Bring(choice) || now.Has(choice));
     });
     return kept;
 }
 
 SelectionReasons::Parameters SelectionReasons::Stated() const {
-    const Parameters choices = Choices();
-    Parameters stated = choices;
-    std::erase_if(stated, [&](const ZOLParameter& choice) { return IsBroughtByChoice(choice, choices); });
+    Parameters stated = Choices();
+    const ChosenOptions chosen(stated);
+    std::erase_if(stated, [&](const ZOLParameter& choice) { return chosen.Bring(choice); });
     return stated;
 }
 

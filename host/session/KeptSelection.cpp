@@ -1,16 +1,15 @@
 #include "session/KeptSelection.h"
 
 #include "service/ZOLQRDCfgManager.h"
+#include "session/WholeFile.h"
 #include "values/ZOLGYRError.h"
 
 #include <nlohmann/json.hpp>
 
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
 #include <fstream>
 #include <iterator>
 #include <unordered_map>
+#include <unordered_set>
 
 namespace trellis {
 
@@ -18,7 +17,6 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr int NotWritten = 60631;
 constexpr int NotRead = 60634;
 constexpr int NoSelection = 60635;
 constexpr int Version = 1;
@@ -55,16 +53,8 @@ KeptSelection SelectionOf(const Json& json) {
 } // namespace
 
 bool KeptSelection::Write(const std::string& file, ZOLGYRError& error) const {
-    const std::string draft = file + ".new";
-    errno = 0;
-    std::ofstream output(draft, std::ios::binary | std::ios::trunc);
-    output << JsonOf(*this).dump(Indent, ' ', false, Json::error_handler_t::replace) << '\n';
-    output.close();
-    if (!output.fail() && std::rename(draft.c_str(), file.c_str()) == 0)
-        return true;
-    error.Set(NotWritten, 0, {file, std::strerror(errno)});
-    std::remove(draft.c_str());
-    return false;
+    return WholeFile::Write(
+        file, JsonOf(*this).dump(Indent, ' ', false, Json::error_handler_t::replace) + '\n', error);
 }
 
 std::optional<KeptSelection> KeptSelection::Read(const std::string& file, ZOLGYRError& error) {
@@ -88,6 +78,9 @@ std::optional<KeptSelection> KeptSelection::Read(const std::string& file, ZOLGYR
 }
 
 std::vector<ZOLParameter> KeptSelection::TakeOutUnknown(const ZOLListValZOLIQrdConfigItem_var& dictionaries) {
+    std::unordered_set<ZOLUnicodeString> named; // a large dictionary has few of the categories chosen from
+    for (const ZOLParameter& choice : choices)
+        named.insert(choice.GetCategory());
     std::unordered_map<std::string, int> exclusivities; // by the reference of the option
     ZOLGYRError error;
     const ZOLQRDCfgManager* manager = ZOLQRDCfgManager::CurrentCfgManager(error);
@@ -95,6 +88,8 @@ std::vector<ZOLParameter> KeptSelection::TakeOutUnknown(const ZOLListValZOLIQrdC
         ZOLListValZOLIQrdCategory_var categories;
         manager->GetCategoriesFromDictionary(dictionaries[i], categories);
         for (const ZOLIQrdCategory_var& category : categories) {
+            if (!named.contains(category->GetName()))
+                continue;
             ZOLListValZOLIQrdEffectivity_var options;
             category->GetOptions(options);
             for (const ZOLIQrdEffectivity_var& option : options)

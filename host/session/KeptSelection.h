@@ -21,7 +21,7 @@ struct KeptSelection {
     std::vector<ZOLParameter> choices;
     ZOLListValZOLUnicodeString ignoredCategories;
 
-    // Replaces the file as a whole. 60631 (file, reason) when it cannot be written; one that was there stays.
+    // As WholeFile writes, with its error.
     bool Write(const std::string& file, ZOLGYRError& error) const;
     // Nothing, and 60634 (file) when it cannot be read, 60635 (file, what is wrong) when it holds no selection.
     static std::optional<KeptSelection> Read(const std::string& file, ZOLGYRError& error);

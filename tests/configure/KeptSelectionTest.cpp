@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 
 namespace trellis::test {
@@ -47,6 +48,21 @@ TEST(KeptSelectionFile, WhatIsNoSelectionIsRefusedWithItsReason) {
         EXPECT_FALSE(KeptSelection::Read(folder.Write("bad.json", content), error)) << content;
         EXPECT_EQ(error.GetCode(), 60635) << content;
     }
+}
+
+TEST(KeptSelectionFile, OnlyTheFileThatWasNamedChanges) {
+    const TemporaryFolder folder;
+    ZOLGYRError error;
+    const std::string neighbour = folder.Write("s.json.new", "mine");
+    ASSERT_TRUE(KeptSelection().Write(folder.Path("s.json"), error));
+    EXPECT_EQ(std::filesystem::file_size(neighbour), 4U);
+    const std::string link = folder.Path("link.json");
+    std::filesystem::create_symlink(folder.Path("s.json"), link);
+    KeptSelection kept;
+    kept.product = "BIKE";
+    ASSERT_TRUE(kept.Write(link, error));
+    EXPECT_TRUE(std::filesystem::is_symlink(link)) << "a link is followed";
+    EXPECT_EQ(KeptSelection::Read(folder.Path("s.json"), error)->product, "BIKE");
 }
 
 TEST(KeptSelectionFile, AFileThatCannotBeReplacedStays) {
