@@ -49,6 +49,7 @@ void ZOLDlgCategoryGraph::ChangeConfigModeCB(ZOLCommand*, ZOLNotification*, void
         _legend->RequestDelayedDestruction();
         _legend = nullptr;
     }
+    _viewer->ForgetIgnoredCategories();
     _viewer->BuildGraph(ZOLListValZOLQRDCfgEffectivity());
     TellFather();
 }

@@ -82,6 +82,9 @@ public:
                     const ZOLListValZOLQRDCfgEffectivity& terms,
                     const ZOLListValZOLIQrdConfigItem_var& dictionaries);
     void BuildGraph(const ZOLListValZOLQRDCfgEffectivity& terms);
+    // Forgets what is ignored, without further effect: a graph that is built without terms then begins with the
+    // defaults.
+    void ForgetIgnoredCategories() { _ignored.RemoveAll(); }
     // Only in advanced mode: ignores these, considers the others.
     void IgnoreCategories(const ZOLListValZOLUnicodeString& names);
     // Kept the first time, for ResetAll.

@@ -2,6 +2,7 @@
 #include "panels/ZOLDMDlgResultPanel.h"
 #include "service/ServiceFixture.h"
 #include "toolkit/CallbackScope.h"
+#include "toolkit/TextMeasure.h"
 #include "toolkit/ZOLDlgEditor.h"
 #include "toolkit/ZOLDlgToggleButton.h"
 #include "toolkit/ZOLDlgWindow.h"
@@ -208,6 +209,7 @@ TEST_F(CategoryGraphPanel, AnotherModeBeginsAnewWithTheDefaults) {
     panel->UnlockedConfigMode();
     Driver::Menu(Find("OptionsFrame"), "SimpleConfigMode");
     EXPECT_FALSE(panel->IsAdvancedConfigMode());
+    EXPECT_EQ(Selection(), "+BELL +RACK ") << "whatever was ignored before";
 }
 
 TEST_F(CategoryGraphPanel, ADictionaryWithoutRulesSaysSo) {
@@ -287,7 +289,14 @@ TEST_F(CategoryGraphPanel, SearchStepsThroughWhatIsFound) {
     ZOLDialog* list = Driver::Find(search, "QRDOptionList");
     Driver::Ok(search);
     Driver::SelectLines(list, {"LED", "RACK"});
-    Driver::Ok(search);
+    const TextMeasure measure;
+    std::vector<int> heights; // of the viewpoint after each press
+    for (int press = 0; press < 3; ++press) {
+        Driver::Ok(search);
+        heights.push_back(panel->GetViewer()->GetViewPoint(measure).y);
+    }
+    EXPECT_NE(heights[0], heights[1]) << "the next one stands in the middle";
+    EXPECT_EQ(heights[0], heights[2]) << "and behind the last the first";
     EXPECT_EQ(Node("LAMP", "LED")->getColor(), 112);
     EXPECT_EQ(Node("EXTRA", "RACK")->getColor(), 112);
     Driver::Apply(search);
